@@ -1,0 +1,177 @@
+// The run: reset, first pass over the source and its includes, second pass
+// over the rows marked for retry, then report and outputs.
+
+#include <utility>
+
+#include "assembler/assembler.h"
+#include "assembler/code_image.h"
+#include "assembler/error_catalogue.h"
+#include "base/cp1252.h"
+#include "base/text.h"
+
+namespace korvex {
+
+Assembler::Assembler(Host& host, AssemblerSettings settings)
+    : host_(host), settings_(std::move(settings)) {}
+
+int findInList(const std::string& key, const std::vector<std::string>& list) {
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        if (list[i] == key) return static_cast<int>(i);
+    }
+    return -1;
+}
+
+RunOutcome Assembler::assembleSource(std::string& sourceName, OutputSwitches switches) {
+    try {
+        return runUntrapped(sourceName, switches);
+    } catch (const RuntimeFailure& failure) {
+        // Files stay as they are until the next run closes them.
+        host_.messageBox(text8("Fehler"),
+                         text8("Fehler Nummer") + decimalText(failure.number(), true) +
+                             text8(" wurde ausgelöst von ") + failure.source() + std::string(kCrLf) +
+                             failure.description() + std::string(kCrLf) + "Sub: assembleSource",
+                         MessageButtons::Ok, MessageIcon::Critical);
+        return RunOutcome::Failed;
+    }
+}
+
+RunOutcome Assembler::runUntrapped(std::string& sourceName, OutputSwitches switches) {
+    resetRun();
+    if (!firstPass()) return RunOutcome::Aborted;
+    const std::int32_t endOfCode = state_.codeAddress;
+    if (!secondPassOver()) return RunOutcome::Aborted;
+    (void)endOfCode;  // the report reads it
+    writeOutputs(sourceName, switches);
+    return RunOutcome::Completed;
+}
+
+void Assembler::resetRun() {
+    files_.clear();
+    state_.currentFile = 1;
+    state_.currentRow = 0;
+    state_.codeAddress = 0;
+    state_.macroCount = 0;
+    state_.openIfCount = 0;
+    state_.openForCount = 0;
+    state_.openLoopCount = 0;
+    state_.useLongCall = false;
+    state_.errorNumber = 0;
+    state_.lineCounters.assign(2, Int16(0));
+    state_.instructionBytes = {};
+    state_.sourceTable.assign(1, SourceRow{});
+    state_.constantTable.reset();
+    state_.byteTable.reset();
+    state_.wordTable.reset();
+    state_.codeText.assign(1, std::string());
+    state_.sfrTable.reset();
+    state_.bitTable.reset();
+    state_.labelTable.reset();
+    state_.symbolList.reset();
+    state_.macroNames.assign(1, std::string());
+    state_.macroBodies.assign(1, std::string());
+    state_.macroParameters.assign(1, std::string());
+    state_.includeList.assign(1, std::string());
+    state_.reportText.clear();
+    files_.emplace(1, SourceFile::open(settings_.temporaryFolder + "TmpFile.tmp"));
+}
+
+void Assembler::letEventsRun() { host_.processPendingEvents(); }
+
+SourceFile& Assembler::file(int number) {
+    const auto hit = files_.find(number);
+    if (hit == files_.end()) raise(FailureNumber::BadFileName);
+    return hit->second;
+}
+
+void Assembler::closeFile(int number) { files_.erase(number); }
+
+bool Assembler::firstPass() {
+    while (true) {
+        letEventsRun();
+        if (abortRequested_) {
+            files_.clear();
+            return false;
+        }
+        std::string line = file(state_.currentFile).readLine();
+        state_.errorNumber = 0;
+        growRowsTo(state_.currentRow);
+        state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].sourceText = line;
+        prepareLine(line);
+        if (!file(state_.currentFile).atEnd()) continue;
+
+        closeFile(state_.currentFile);
+        if (state_.currentFile == 1) return true;
+        // An include has ended: back to the file that opened it, which is the
+        // one saved by the last #INCLUDE, not simply the number below.
+        deleteFileIfPresent(settings_.temporaryFolder + "TmpFile" +
+                            std::to_string(state_.currentFile.value()) + ".tmp");
+        state_.currentFile = state_.parentFile;
+        if (!file(state_.currentFile).atEnd()) continue;
+        closeFile(state_.currentFile);
+        deleteFileIfPresent(settings_.temporaryFolder + "TmpFile" +
+                            std::to_string(state_.currentFile.value()) + ".tmp");
+        return true;
+    }
+}
+
+bool Assembler::secondPassOver() {
+    state_.secondPass = true;
+    const auto rows = static_cast<std::int32_t>(state_.sourceTable.size());
+    for (std::int32_t row = 0; row < rows; ++row) {
+        state_.currentRow = row;
+        if (state_.sourceTable[static_cast<std::size_t>(row)].retryMark.empty()) continue;
+        state_.codeAddress = static_cast<std::int32_t>(
+            parseHexPrefix(state_.codeText[static_cast<std::size_t>(row)].substr(0, 4)));
+        std::string statement = state_.sourceTable[static_cast<std::size_t>(row)].statement;
+        processStatement(statement);
+        if (state_.errorNumber != 0) recordError();
+    }
+    state_.secondPass = false;
+    letEventsRun();
+    if (abortRequested_) {
+        files_.clear();
+        return false;
+    }
+    return true;
+}
+
+void Assembler::writeOutputs(std::string& sourceName, OutputSwitches switches) {
+    // The extension is cut only when its dot stands among the last four characters.
+    const std::size_t searchFrom = sourceName.size() >= 4 ? sourceName.size() - 4 : 0;
+    const std::size_t dot = sourceName.find('.', searchFrom);
+    if (dot != std::string::npos) sourceName.erase(dot);
+
+    for (auto& text : state_.codeText) cleanText(text);
+    const std::string base = sourceName + ".";
+    if (switches.binary) writeBinaryFile(base + settings_.binaryExtension, state_.codeText);
+    if (switches.hex) writeHexFile(base + settings_.hexExtension, state_.codeText);
+    if (switches.symbols) writeSymbolFile(base + settings_.symbolExtension, state_.symbolList);
+}
+
+void Assembler::growRowsTo(std::int32_t row) {
+    const auto needed = static_cast<std::size_t>(row) + 1;
+    if (state_.sourceTable.size() < needed) state_.sourceTable.resize(needed);
+    if (state_.codeText.size() < needed) state_.codeText.resize(needed);
+}
+
+void Assembler::setCodeText(const std::string& text) {
+    growRowsTo(state_.currentRow);
+    state_.codeText[static_cast<std::size_t>(state_.currentRow)] = text;
+}
+
+std::string Assembler::positionText() const {
+    const int file = state_.currentFile;
+    return std::to_string(file) + ":" +
+           std::to_string(state_.lineCounters.at(static_cast<std::size_t>(file)).value());
+}
+
+void Assembler::recordError() {
+    growRowsTo(state_.currentRow);
+    SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
+    const int number = state_.errorNumber;
+    if (catalogueEntry(number).kind == FindingKind::Retried) row.retryMark = "?";
+    row.marker = catalogueMarker(number);
+    state_.errorNumber = 0;
+}
+
+}  // namespace korvex

@@ -1,0 +1,74 @@
+#include "assembler/error_catalogue.h"
+
+#include <array>
+#include <string_view>
+
+#include "base/cp1252.h"
+
+namespace korvex {
+namespace {
+
+struct Entry {
+    std::string_view words;  // UTF-8 in the source
+    bool final;
+};
+
+constexpr std::array<Entry, 41> kCatalogue = {{
+    {"", false},
+    {"ungültige Operandenkombination", false},
+    {"nur R0 bis R7 möglich", false},
+    {"#data-Angabe fehlt", false},
+    {"ungültige Direct-Adresse", false},
+    {"Blocküberschreitung", false},
+    {"unbekannter Befehl bzw. Sprungziel nicht gefunden", false},
+    {"Variable nicht erkannt", false},
+    {"Bit nicht erkannt", false},
+    {"Org-Adresse nicht erkannt", false},
+    {"nicht bitadressierbar", false},
+    {"Adresse liegt in eventuell beschriebenem Bereich", true},
+    {"String zu lang", false},
+    {"#data zu groß", false},
+    {"IF-Struktur nicht erkannt", true},
+    {"Ungültige Exit-Anweisung", false},
+    {"Ungültige End-Anweisung", false},
+    {"Hochkommafehler", false},
+    {"Tabellenwert > FFh", false},
+    {"Formatfehler in Tabelle", false},
+    {"Syntaxfehler in Loop", true},
+    {"relativer Adressbereich überschritten", true},
+    {"Else/End IF ohne IF-Beginn", true},
+    {"Next ohne For-Beginn", true},
+    {"End Loop ohne Loop-Beginn", true},
+    {"Exit If nicht möglich", true},
+    {"Exit For außerhalb einer For-Schleife", true},
+    {"Exit Loop außerhalb einer Loop-Schleife", true},
+    {"Befehl nicht erkannt", false},
+    {"Entfernen Sie das Leerzeichen nach #", true},
+    {"#data16 nicht erkannt", false},
+    {"Wert zu groß", false},
+    {"Syntaxfehler", true},
+    {"nur bitadressierbare SFR", false},
+    {"Bitadresse zu groß", false},
+    {"Else mehrfach vorhanden", true},
+    {"ungültige Bitnummer", true},
+    {"ElseIf nach Else", true},
+    {"Else ohne If", true},
+    {"ungültiger Rechenausdruck", true},
+    {"Division mit null", true},
+}};
+
+}  // namespace
+
+CatalogueEntry catalogueEntry(int number) {
+    if (number < 1 || number >= static_cast<int>(kCatalogue.size())) {
+        return {std::string(), FindingKind::Retried};
+    }
+    const Entry& entry = kCatalogue[static_cast<std::size_t>(number)];
+    return {text8(entry.words), entry.final ? FindingKind::Final : FindingKind::Retried};
+}
+
+std::string catalogueMarker(int number) {
+    return ";>err" + std::to_string(number) + ": " + catalogueEntry(number).words;
+}
+
+}  // namespace korvex

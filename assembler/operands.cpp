@@ -1,0 +1,104 @@
+// Operand classes, bit operands and relative offsets.
+
+#include "assembler/assembler.h"
+#include "base/text.h"
+
+namespace korvex {
+
+void Assembler::classifyOperand(std::string& text, std::int16_t& operandClass,
+                                std::int32_t& value) {
+    if (text.empty()) return;
+    // When an expression doesn't evaluate, neither class nor value are written.
+    if (text.front() == '#') {
+        std::string rest = text.substr(1);
+        std::int32_t evaluated = kValueContext;
+        bool found = false;
+        evaluateExpression(rest, evaluated, found);
+        if (found) {
+            operandClass = ClassImmediate;
+            value = evaluated;
+        }
+        return;
+    }
+    if (text.size() == 2 && text[0] == 'R' && text[1] >= '0' && text[1] <= '7') {
+        operandClass = ClassRegister;
+        value = text[1] - '0';
+        return;
+    }
+    if (text == "@R0" || text == "@R1") {
+        operandClass = ClassIndirect;
+        value = text[2] - '0';
+        return;
+    }
+    if (text == "A") {
+        operandClass = ClassAccumulator;
+        return;
+    }
+    if (text == "DPTR") {
+        operandClass = ClassDptr;
+        return;
+    }
+    std::int32_t evaluated = kValueContext;
+    bool found = false;
+    evaluateExpression(text, evaluated, found);
+    if (found) {
+        operandClass = ClassDirect;
+        value = evaluated;
+    }
+}
+
+void Assembler::parseBitOperand(std::string& text, std::int16_t& operandClass,
+                                std::int32_t& value) {
+    const std::size_t dot = text.find('.');
+    if (dot != std::string::npos) {
+        std::string left = text.substr(0, dot);
+        const std::string right = text.substr(dot + 1);
+        // Compared as text: "7" passes, "70" does not.
+        if (right > "7" || right < "0") return;
+        std::int32_t bitNumber = 0;
+        for (std::size_t i = 0; i < right.size() && right[i] >= '0' && right[i] <= '9'; ++i) {
+            bitNumber = bitNumber * 10 + (right[i] - '0');
+        }
+        if (const int sfr = state_.sfrTable.find(left); sfr >= 0) {
+            const auto address = static_cast<std::int32_t>(parseHexPrefix(state_.sfrTable.at(sfr, 1)));
+            if (address % 8 == 0) {
+                value = address + bitNumber;
+                operandClass = ClassBit;
+                return;
+            }
+        }
+        std::int32_t byteAddress = kValueContext;
+        bool found = true;
+        evaluateExpression(left, byteAddress, found);
+        if (found && byteAddress >= 0x20 && byteAddress <= 0x2F) {
+            value = (byteAddress - 0x20) * 8 + bitNumber;
+            operandClass = ClassBit;
+        } else if (found && byteAddress >= 0x80 && byteAddress % 8 == 0) {
+            value = byteAddress + bitNumber;
+            operandClass = ClassBit;
+        }
+        return;
+    }
+    if (const int row = state_.bitTable.find(text); row >= 0) {
+        state_.bitTable.set(row, 2, "1");
+        value = static_cast<std::int32_t>(parseHexPrefix(state_.bitTable.at(row, 1)));
+        operandClass = ClassBit;
+        return;
+    }
+    std::int32_t evaluated = kBitContext;
+    bool found = false;
+    evaluateExpression(text, evaluated, found);
+    if (found) {
+        value = evaluated;
+        operandClass = ClassBit;
+    }
+}
+
+std::int32_t Assembler::relativeOffset(std::int32_t target, std::int32_t length) {
+    const std::int64_t offset = std::int64_t{target} - state_.codeAddress - length;
+    if (offset >= -128 && offset <= 127) return static_cast<std::int32_t>(offset & 0xFF);
+    state_.errorNumber = 21;
+    return 0;
+}
+
+}  // namespace korvex

@@ -1,0 +1,89 @@
+#pragma once
+// The run-wide state of the assembler. It lives in an `Assembler` object that
+// outlasts a run, so the driver-file counters really survive from one run to
+// the next, and two assemblers never meet.
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "assembler/text_table.h"
+#include "base/failure.h"
+
+namespace korvex {
+
+// One row per statement. The text columns are the interface between stages.
+struct SourceRow {
+    std::string retryMark;   // "?" when the second pass must encode the row again
+    std::string marker;      // ";>err..." finding, empty when clean
+    std::string position;    // file number ":" line number
+    std::string statement;   // the statement as the second pass sees it
+    std::string sourceText;  // the raw line, on the first row of a line only
+};
+
+// Operand classes as classifyOperand and parseBitOperand return them.
+enum OperandClass : std::int16_t {
+    ClassNone = 0,
+    ClassRegister = 1,
+    ClassAccumulator = 2,
+    ClassIndirect = 3,
+    ClassDirect = 4,
+    ClassImmediate = 5,
+    ClassBit = 8,
+    ClassDptr = 9,
+};
+
+// The contexts that the value argument of evaluateExpression selects.
+inline constexpr std::int32_t kValueContext = 0;
+inline constexpr std::int32_t kLabelContext = 7;
+inline constexpr std::int32_t kBitContext = 8;
+
+struct RunState {
+    Int16 currentFile = 1;
+    std::int32_t currentRow = 0;
+    std::int32_t codeAddress = 0;
+    Int16 macroCount = 0;
+    Int16 openIfCount = 0;
+    Int16 openForCount = 0;
+    Int16 openLoopCount = 0;
+    bool useLongCall = false;
+    Int16 errorNumber = 0;
+    bool secondPass = false;
+    std::int32_t numberResult = 0;
+    Int16 instructionLength = 1;
+    std::array<std::uint8_t, 3> instructionBytes{};
+    std::array<std::string, 4> tokens;
+    std::string statementCopy;
+    Int16 parentFile = 0;
+    std::string includePath;
+    std::string reportText;
+
+    // Counts of what the last driver file brought; only the driver reader
+    // writes them, and a run leaves them alone.
+    std::int32_t vectorCount = 0;
+    Int16 sfrCount = 0;
+    Int16 bitCount = 0;
+    Int16 firstUserBit = 0;
+
+    // Lines read so far, by file number.
+    std::vector<Int16> lineCounters;
+
+    std::vector<SourceRow> sourceTable;
+    std::vector<std::string> codeText;
+
+    TextTable<4> labelTable;     // key, decimal address, use mark, "name: Zeile pos"
+    TextTable<3> sfrTable;       // name, hexadecimal address, "1"
+    TextTable<4> bitTable;       // key, hexadecimal address, use mark, written name
+    TextTable<4> byteTable;      // key, decimal address, use mark, written name
+    TextTable<4> wordTable;      // key, decimal address, use mark, written name
+    TextTable<2> constantTable;  // key, decimal value
+    TextTable<3> symbolList;     // written name, kind, value text
+
+    std::vector<std::string> macroNames;
+    std::vector<std::string> macroBodies;
+    std::vector<std::string> macroParameters;
+    std::vector<std::string> includeList;
+};
+
+}  // namespace korvex

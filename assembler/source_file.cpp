@@ -1,0 +1,57 @@
+#include "assembler/source_file.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "base/failure.h"
+
+namespace korvex {
+
+SourceFile SourceFile::open(const std::string& path) { return SourceFile(readWholeFile(path)); }
+
+SourceFile SourceFile::fromText(std::string text) { return SourceFile(std::move(text)); }
+
+std::string SourceFile::readLine() {
+    if (atEnd()) raise(FailureNumber::ReadPastEnd);
+    const std::size_t end = bytes_.find_first_of("\r\n", position_);
+    if (end == std::string::npos) {
+        std::string line = bytes_.substr(position_);
+        position_ = bytes_.size();
+        return line;
+    }
+    std::string line = bytes_.substr(position_, end - position_);
+    position_ = end + 1;
+    if (bytes_[end] == '\r' && position_ < bytes_.size() && bytes_[position_] == '\n') {
+        ++position_;
+    }
+    return line;
+}
+
+bool fileExists(const std::string& path) {
+    std::error_code ec;
+    return !path.empty() && std::filesystem::is_regular_file(path, ec);
+}
+
+std::string readWholeFile(const std::string& path) {
+    std::error_code ec;
+    if (path.empty() || std::filesystem::is_directory(path, ec)) raise(FailureNumber::FileNotFound);
+    std::ifstream in(path, std::ios::binary);
+    if (!in) raise(FailureNumber::FileNotFound);
+    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+void writeWholeFile(const std::string& path, const std::string& bytes) {
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    if (!out) raise(FailureNumber::PathFileAccess);
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (!out) raise(FailureNumber::PathFileAccess);
+}
+
+void deleteFileIfPresent(const std::string& path) {
+    std::error_code ec;
+    std::filesystem::remove(path, ec);
+}
+
+}  // namespace korvex

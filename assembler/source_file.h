@@ -1,0 +1,34 @@
+#pragma once
+// A text file read line by line, as the classic sequential input did: a line
+// ends at CR, at CR LF, and (for files written on Linux) at a lone LF. The end
+// is tested after a line was read, so reading an empty file is a failure.
+
+#include <cstddef>
+#include <string>
+
+namespace korvex {
+
+class SourceFile {
+public:
+    // Reads the whole file; a file that can't be opened raises "Datei nicht gefunden".
+    static SourceFile open(const std::string& path);
+    static SourceFile fromText(std::string text);
+
+    // Raises "Einlesen hinter Dateiende" when the file is at its end.
+    std::string readLine();
+    bool atEnd() const { return position_ >= bytes_.size(); }
+
+private:
+    explicit SourceFile(std::string bytes) : bytes_(std::move(bytes)) {}
+
+    std::string bytes_;
+    std::size_t position_ = 0;
+};
+
+// Whole-file helpers for the writers and readers of the system.
+bool fileExists(const std::string& path);
+std::string readWholeFile(const std::string& path);               // raises 53 when missing
+void writeWholeFile(const std::string& path, const std::string& bytes);  // raises 75 on failure
+void deleteFileIfPresent(const std::string& path);
+
+}  // namespace korvex

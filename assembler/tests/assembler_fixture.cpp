@@ -1,0 +1,78 @@
+#include "assembler/tests/assembler_fixture.h"
+
+#include <filesystem>
+
+#include "assembler/code_image.h"
+#include "assembler/source_file.h"
+#include "base/program_folder.h"
+#include "base/text.h"
+
+namespace korvex::testing {
+
+void AssemblerFixture::SetUp() {
+    folder_ = makePrivateTemporaryFolder();
+    ASSERT_FALSE(folder_.empty());
+    AssemblerSettings settings;
+    settings.programFolder = folder_;
+    settings.temporaryFolder = folder_;
+    settings.sourceFolder = folder_;
+    assembler_ = std::make_unique<Assembler>(host_, settings);
+}
+
+void AssemblerFixture::TearDown() {
+    std::error_code ec;
+    std::filesystem::remove_all(folder_, ec);
+}
+
+RunOutcome AssemblerFixture::assemble(const std::string& source, OutputSwitches switches) {
+    writeFile("TmpFile.tmp", source);
+    std::string name = folder_ + "prog.a51";
+    return assembler_->assembleSource(name, switches);
+}
+
+RunOutcome AssemblerFixture::assembleLines(const std::vector<std::string>& lines,
+                                           OutputSwitches switches) {
+    std::string text;
+    for (const auto& line : lines) text += line + "\r\n";
+    return assemble(text, switches);
+}
+
+std::string AssemblerFixture::image() const { return binaryImage(assembler_->state().codeText); }
+
+std::string AssemblerFixture::bytesOfRow(int index) const {
+    CodeEntry entry;
+    std::string code = assembler_->state().codeText.at(static_cast<std::size_t>(index));
+    cleanText(code);
+    readCodeEntry(code, entry);
+    std::string out;
+    for (auto byte : entry.bytes) out += (out.empty() ? "" : " ") + hexDigits(byte, 2);
+    return out;
+}
+
+const SourceRow& AssemblerFixture::row(int index) const {
+    return assembler_->state().sourceTable.at(static_cast<std::size_t>(index));
+}
+
+int AssemblerFixture::markerNumber(int index) const {
+    const std::string& marker = row(index).marker;
+    if (!startsWith(marker, ";>err")) return 0;
+    return static_cast<int>(parseDecimal(marker.substr(5, marker.find_first_of(": ", 5) - 5)));
+}
+
+std::vector<std::string> AssemblerFixture::markers() const {
+    std::vector<std::string> out;
+    for (const auto& r : assembler_->state().sourceTable) {
+        if (!r.marker.empty()) out.push_back(r.position + " " + r.marker);
+    }
+    return out;
+}
+
+void AssemblerFixture::writeFile(const std::string& name, const std::string& bytes) const {
+    writeWholeFile(folder_ + name, bytes);
+}
+
+std::string AssemblerFixture::readFile(const std::string& name) const {
+    return readWholeFile(folder_ + name);
+}
+
+}  // namespace korvex::testing

@@ -1,0 +1,77 @@
+#pragma once
+// A run-time failure of the kind the classic host raised (overflow, missing
+// file, read past the end ...). Source errors are never failures: they are
+// markers on rows. A failure is thrown where the host would fail and caught at
+// the few traps that the program has.
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace korvex {
+
+enum class FailureNumber : int {
+    InvalidCall = 5,
+    Overflow = 6,
+    IndexOutOfRange = 9,
+    DivisionByZero = 11,
+    TypeMismatch = 13,
+    BadFileName = 52,
+    FileNotFound = 53,
+    ReadPastEnd = 62,
+    PermissionDenied = 70,
+    PathFileAccess = 75,
+    PathNotFound = 76,
+};
+
+class RuntimeFailure : public std::exception {
+public:
+    explicit RuntimeFailure(FailureNumber number);
+
+    int number() const { return number_; }
+    // German description, Windows-1252.
+    const std::string& description() const { return description_; }
+    // The error source, always the program's name.
+    const std::string& source() const { return source_; }
+    const char* what() const noexcept override { return description_.c_str(); }
+
+private:
+    int number_;
+    std::string description_;
+    std::string source_;
+};
+
+[[noreturn]] void raise(FailureNumber number);
+
+// German description of a classic error number (Windows-1252), empty if unknown.
+std::string failureDescription(int number);
+
+// 32-bit signed arithmetic of the host: leaving the range is an overflow failure.
+std::int32_t checkedInt32(std::int64_t value);
+std::int32_t checkedAdd(std::int32_t a, std::int32_t b);
+std::int32_t checkedSub(std::int32_t a, std::int32_t b);
+std::int32_t checkedMul(std::int32_t a, std::int32_t b);
+
+// Storing into a byte: a value outside 0..255 is an overflow failure.
+std::uint8_t checkedByte(std::int64_t value);
+
+// A 16-bit signed counter of the host: passing its range raises the overflow failure.
+class Int16 {
+public:
+    constexpr Int16() = default;
+    Int16(std::int64_t value) : value_(check(value)) {}  // NOLINT: behaves like the host's integer
+
+    operator std::int16_t() const { return value_; }  // NOLINT
+    std::int16_t value() const { return value_; }
+
+    Int16& operator+=(std::int64_t d) { value_ = check(value_ + d); return *this; }
+    Int16& operator-=(std::int64_t d) { value_ = check(value_ - d); return *this; }
+    Int16& operator++() { return *this += 1; }
+    Int16& operator--() { return *this -= 1; }
+
+private:
+    static std::int16_t check(std::int64_t value);
+    std::int16_t value_ = 0;
+};
+
+}  // namespace korvex

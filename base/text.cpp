@@ -1,0 +1,120 @@
+#include "base/text.h"
+
+#include <charconv>
+
+namespace korvex {
+namespace {
+bool isBlankOrTab(char c) { return c == ' ' || c == '\t'; }
+}  // namespace
+
+void cleanText(std::string& text) {
+    std::size_t first = 0;
+    while (first < text.size() && isBlankOrTab(text[first])) ++first;
+    std::size_t last = text.size();
+    while (last > first && isBlankOrTab(text[last - 1])) --last;
+    text = text.substr(first, last - first);
+}
+
+std::string cleaned(std::string_view text) {
+    std::string copy(text);
+    cleanText(copy);
+    return copy;
+}
+
+std::string trimBlanks(std::string_view text) {
+    std::size_t first = 0;
+    while (first < text.size() && text[first] == ' ') ++first;
+    std::size_t last = text.size();
+    while (last > first && text[last - 1] == ' ') --last;
+    return std::string(text.substr(first, last - first));
+}
+
+std::string trimLeftBlanks(std::string_view text) {
+    std::size_t first = 0;
+    while (first < text.size() && text[first] == ' ') ++first;
+    return std::string(text.substr(first));
+}
+
+std::string removeAll(std::string_view text, char c) {
+    std::string out;
+    out.reserve(text.size());
+    for (char ch : text) {
+        if (ch != c) out += ch;
+    }
+    return out;
+}
+
+std::string replaceAll(std::string_view text, std::string_view what, std::string_view with) {
+    if (what.empty()) return std::string(text);
+    std::string out;
+    std::size_t from = 0;
+    while (true) {
+        const std::size_t hit = text.find(what, from);
+        if (hit == std::string_view::npos) break;
+        out.append(text.substr(from, hit - from));
+        out.append(with);
+        from = hit + what.size();
+    }
+    out.append(text.substr(from));
+    return out;
+}
+
+std::string hexDigits(std::int64_t value, int width) {
+    static constexpr char kDigits[] = "0123456789ABCDEF";
+    auto bits = static_cast<std::uint32_t>(value);
+    std::string out;
+    do {
+        out.insert(out.begin(), kDigits[bits & 0xF]);
+        bits >>= 4;
+    } while (bits != 0);
+    if (width > 0) {
+        const auto w = static_cast<std::size_t>(width);
+        if (out.size() < w) out.insert(0, w - out.size(), '0');
+        if (out.size() > w) out.erase(0, out.size() - w);
+    }
+    return out;
+}
+
+std::string decimalText(std::int64_t value, bool signPlace) {
+    std::string out = std::to_string(value);
+    if (signPlace && value >= 0) out.insert(out.begin(), ' ');
+    return out;
+}
+
+std::int64_t parseDecimal(std::string_view text, std::int64_t fallback) {
+    std::int64_t value = 0;
+    const char* begin = text.data();
+    const char* end = text.data() + text.size();
+    if (begin != end && *begin == '+') ++begin;
+    const auto result = std::from_chars(begin, end, value);
+    if (result.ec != std::errc() || result.ptr != end || begin == end) return fallback;
+    return value;
+}
+
+std::int64_t parseHexPrefix(std::string_view text) {
+    std::int64_t value = 0;
+    for (char c : text) {
+        int digit = 0;
+        if (c >= '0' && c <= '9') {
+            digit = c - '0';
+        } else if (c >= 'A' && c <= 'F') {
+            digit = c - 'A' + 10;
+        } else if (c >= 'a' && c <= 'f') {
+            digit = c - 'a' + 10;
+        } else {
+            break;
+        }
+        value = (value << 4 | digit) & 0xFFFFFFFFFFFFLL;
+    }
+    return value;
+}
+
+bool startsWith(std::string_view text, std::string_view prefix) {
+    return text.substr(0, prefix.size()) == prefix;
+}
+
+bool endsWith(std::string_view text, std::string_view suffix) {
+    return text.size() >= suffix.size() && text.substr(text.size() - suffix.size()) == suffix;
+}
+
+}  // namespace korvex
