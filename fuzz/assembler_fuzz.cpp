@@ -1,0 +1,42 @@
+// Arbitrary bytes as a source: whatever the text, a run ends with findings or
+// a trapped failure, never with a crash, a hang or a sanitizer report.
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "assembler/assembler.h"
+#include "assembler/source_file.h"
+
+namespace {
+
+// One private folder per process: outputs land beside the source name, and
+// parallel fuzzing jobs must not meet. It goes when the process exits.
+struct ScratchFolder {
+    ScratchFolder() {
+        path = (std::filesystem::temp_directory_path() / "korvex-fuzz-XXXXXX").string();
+        if (mkdtemp(path.data()) == nullptr) std::abort();
+        path += '/';
+    }
+    ~ScratchFolder() {
+        std::error_code ec;
+        std::filesystem::remove_all(path, ec);
+    }
+    std::string path;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const ScratchFolder scratch;
+    const std::string& folder = scratch.path;
+    korvex::writeWholeFile(folder + "TmpFile.tmp",
+                           std::string(reinterpret_cast<const char*>(data), size));
+    korvex::QuietHost host;
+    korvex::Assembler assembler(host, korvex::AssemblerSettings{folder, folder, folder});
+    std::string sourceName = folder + "fuzz.a51";
+    assembler.assembleSource(sourceName, korvex::OutputSwitches{true, true, true, true});
+    return 0;
+}
