@@ -1,0 +1,108 @@
+// korvex-asm as a user runs it: exit codes, files beside the source, and the
+// hex file read back by an independent tool.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "base/program_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Result {
+    int exitCode;
+    std::string output;
+};
+
+Result run(const std::string& arguments) {
+    const std::string command = std::string(KORVEX_ASM) + " " + arguments + " 2>&1";
+    Result result{-1, {}};
+    FILE* pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr) return result;
+    std::array<char, 4096> buffer{};
+    while (fgets(buffer.data(), buffer.size(), pipe) != nullptr) result.output += buffer.data();
+    const int status = pclose(pipe);
+    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+
+std::string readBytes(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+class KorvexAsmTest : public ::testing::Test {
+protected:
+    void SetUp() override { folder_ = korvex::makePrivateTemporaryFolder(); }
+    void TearDown() override { fs::remove_all(folder_); }
+    std::string write(const std::string& name, const std::string& text) {
+        std::ofstream(folder_ + name, std::ios::binary) << text;
+        return folder_ + name;
+    }
+    std::string folder_;
+};
+
+TEST_F(KorvexAsmTest, UsageAndHelp) {
+    Result r = run("--help");
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_NE(r.output.find("Aufruf: korvex-asm"), std::string::npos);
+    EXPECT_EQ(run("").exitCode, 64);
+    EXPECT_EQ(run("--bogus x.a51").exitCode, 64);
+    EXPECT_EQ(run("a.a51 b.a51").exitCode, 64);
+}
+
+TEST_F(KorvexAsmTest, DefaultOutputsLandBesideTheSource) {
+    const std::string source = write("prog.a51", "NOP\r\nRET\r\n");
+    EXPECT_EQ(run(source).exitCode, 0);
+    EXPECT_TRUE(fs::exists(folder_ + "prog.h51"));
+    EXPECT_FALSE(fs::exists(folder_ + "prog.b51"));
+    EXPECT_FALSE(fs::exists(folder_ + "prog.s51"));
+}
+
+TEST_F(KorvexAsmTest, FindingsGiveExitOneAndStillWriteEverything) {
+    const std::string source = write("bad.a51", "NOP\r\n  SJMP NOWHERE\r\n");
+    Result r = run("--bin --hex " + source);
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_NE(r.output.find("Zeile 1:2   SJMP NOWHERE ;>err6: unbekannter Befehl"),
+              std::string::npos)
+        << r.output;
+    EXPECT_EQ(readBytes(folder_ + "bad.b51"), std::string("\x00\x80\x00", 3));
+}
+
+TEST_F(KorvexAsmTest, RunTimeFailureWritesNothing) {
+    const std::string source = write("empty.a51", "");
+    Result r = run("--all " + source);
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_NE(r.output.find("Fehler Nummer 62"), std::string::npos) << r.output;
+    EXPECT_FALSE(fs::exists(folder_ + "empty.h51"));
+}
+
+TEST_F(KorvexAsmTest, HexFileAgreesWithBinaryForAnIndependentReader) {
+    if (!fs::exists("/usr/bin/srec_cat")) GTEST_SKIP() << "srec_cat (Debian srecord) fehlt";
+    std::string text = "ORG 10h\r\n";
+    for (int i = 0; i < 100; ++i) text += "MOV A,#" + std::to_string(i) + "\r\nLJMP 1234h\r\n";
+    text += "ORG 0800h\r\nCALL 10h\r\nEND\r\n";
+    const std::string source = write("image.a51", text);
+    ASSERT_EQ(run("--bin --hex " + source).exitCode, 0);
+    const std::string converted = folder_ + "converted.bin";
+    ASSERT_EQ(std::system(("/usr/bin/srec_cat " + folder_ + "image.h51 -Intel -o " + converted +
+                           " -Binary")
+                              .c_str()),
+              0);
+    EXPECT_EQ(readBytes(converted), readBytes(folder_ + "image.b51"));
+}
+
+TEST_F(KorvexAsmTest, BundledExampleAssemblesClean) {
+    fs::copy_file(std::string(KORVEX_SOURCE_DIR) + "/examples/beispiel.a51", folder_ + "b.a51");
+    Result r = run("--all " + folder_ + "b.a51");
+    EXPECT_EQ(r.exitCode, 0) << r.output;
+}
+
+}  // namespace
