@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "assembler/run_state.h"
@@ -14,6 +15,16 @@
 #include "base/host.h"
 
 namespace korvex {
+
+struct CalendarDate {
+    int day = 1;
+    int month = 1;
+    int year = 2000;
+};
+
+// "3. Mai 2024", the date of the listing's first line.
+std::string germanDate(const CalendarDate& date);
+CalendarDate todaysDate();
 
 struct AssemblerSettings {
     std::string programFolder;    // drivers live here; ends in "/"
@@ -23,6 +34,7 @@ struct AssemblerSettings {
     std::string binaryExtension = "b51";
     std::string hexExtension = "h51";
     std::string symbolExtension = "s51";
+    std::optional<CalendarDate> today;  // the listing's date; the system's when empty
 };
 
 struct OutputSwitches {
@@ -61,6 +73,22 @@ public:
     void defineLabel(std::string& text, const std::string& position);
     void recordError();
 
+    // Directives, declarations and drivers.
+    bool handleDirective(std::string& text);
+    void readCpuDriver(const std::string& head, const std::string& tail);
+    void declareList(std::string list, const std::string& kind);
+    void declareName(std::string key, std::string written, int kind);
+
+    // Macros.
+    void expandMacros(std::string& line);
+    void expandMacroCall(std::string& line, std::int32_t& macro);
+    void substituteParameter(std::string& body, const std::string& parameter,
+                             const std::string& argument);
+
+    // The report and the listing of the last run.
+    void buildReport(std::int32_t endOfCode);
+    std::string listingText() const;
+
     // The run as the driver does it, without the trap; for callers that want
     // the failure itself (tests). `assembleSource` wraps it.
     RunOutcome runUntrapped(std::string& sourceName, OutputSwitches switches);
@@ -69,12 +97,16 @@ private:
     void foldCharacterLiterals(std::string& text);
     void splitTokens(const std::string& text);
     void expandAllMacros(std::string& line);
-    bool handleDirective(std::string& text);
+    void defineMacro(const std::string& text);
+    void openInclude(const std::string& text);
+    void excludeRange(const std::string& text, bool bits);
+    void setRowMarker(const std::string& marker);
+    void addSymbol(const std::string& written, const std::string& kind, std::int64_t value);
 
     void resetRun();
     bool firstPass();
     bool secondPassOver();
-    void writeOutputs(std::string& sourceName, OutputSwitches switches);
+    void writeOutputs(std::string& sourceName, OutputSwitches switches, std::int32_t endOfCode);
     void letEventsRun();
 
     // Lines of the main source and of an include are read through file numbers.
@@ -123,5 +155,11 @@ private:
 
 // Index of the first entry equal to `key`, or -1. The callers fold the case.
 int findInList(const std::string& key, const std::vector<std::string>& list);
+
+// Whether the first occurrence of `name` in the line stands as a word of its own.
+bool isWholeWord(const std::string& upperLine, const std::string& name);
+
+// The path an #INCLUDE names, relative to the source's folder; "..\\" goes up.
+std::string resolveIncludePath(std::string path, const std::string& sourceFolder);
 
 }  // namespace korvex

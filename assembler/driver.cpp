@@ -40,8 +40,7 @@ RunOutcome Assembler::runUntrapped(std::string& sourceName, OutputSwitches switc
     if (!firstPass()) return RunOutcome::Aborted;
     const std::int32_t endOfCode = state_.codeAddress;
     if (!secondPassOver()) return RunOutcome::Aborted;
-    (void)endOfCode;  // the report reads it
-    writeOutputs(sourceName, switches);
+    writeOutputs(sourceName, switches, endOfCode);
     return RunOutcome::Completed;
 }
 
@@ -135,14 +134,18 @@ bool Assembler::secondPassOver() {
     return true;
 }
 
-void Assembler::writeOutputs(std::string& sourceName, OutputSwitches switches) {
+void Assembler::writeOutputs(std::string& sourceName, OutputSwitches switches,
+                             std::int32_t endOfCode) {
     // The extension is cut only when its dot stands among the last four characters.
     const std::size_t searchFrom = sourceName.size() >= 4 ? sourceName.size() - 4 : 0;
     const std::size_t dot = sourceName.find('.', searchFrom);
     if (dot != std::string::npos) sourceName.erase(dot);
 
-    for (auto& text : state_.codeText) cleanText(text);
+    buildReport(endOfCode);
+    host_.setDialogText(state_.reportText);
     const std::string base = sourceName + ".";
+    if (switches.listing) writeWholeFile(base + settings_.listingExtension, listingText());
+    for (auto& text : state_.codeText) cleanText(text);
     if (switches.binary) writeBinaryFile(base + settings_.binaryExtension, state_.codeText);
     if (switches.hex) writeHexFile(base + settings_.hexExtension, state_.codeText);
     if (switches.symbols) writeSymbolFile(base + settings_.symbolExtension, state_.symbolList);

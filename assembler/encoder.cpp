@@ -67,8 +67,16 @@ void Assembler::encodeInstruction() {
         if (encodeOrg()) return;
     } else if (mnemonic == "END" && t[1] != "IF" && t[1] != "LOOP") {
         encodeEnd();
+    } else if (mnemonic == "CPU") {
+        readCpuDriver(t[0], t[1]);
+        setCodeText(std::string(kFourTabs));
+        return;
     } else if (mnemonic == "#") {
         state_.errorNumber = 29;  // the line had a blank behind "#"
+    } else if (startsWith(mnemonic, "CPU=")) {
+        readCpuDriver(t[0], "");
+        setCodeText(std::string(kFourTabs));
+        return;
     } else {
         if (encodeAssignment()) return;
         encodeImplicitCall();

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "base/cp1252.h"
 #include "base/failure.h"
 
 namespace korvex {
@@ -52,6 +53,28 @@ void writeWholeFile(const std::string& path, const std::string& bytes) {
 void deleteFileIfPresent(const std::string& path) {
     std::error_code ec;
     std::filesystem::remove(path, ec);
+}
+
+std::string nativePath(std::string_view path) {
+    std::string out(path);
+    for (char& c : out) {
+        if (c == '\\') c = '/';
+    }
+    return out;
+}
+
+std::string findFileIgnoringCase(const std::string& path) {
+    if (fileExists(path)) return path;
+    const std::filesystem::path wanted(path);
+    const std::filesystem::path folder = wanted.has_parent_path() ? wanted.parent_path() : ".";
+    const std::string name = upperCase(wanted.filename().string());
+    std::error_code ec;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, ec)) {
+        if (upperCase(entry.path().filename().string()) == name && entry.is_regular_file(ec)) {
+            return entry.path().string();
+        }
+    }
+    return path;
 }
 
 }  // namespace korvex

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace korvex {
 
@@ -30,5 +31,13 @@ bool fileExists(const std::string& path);
 std::string readWholeFile(const std::string& path);               // raises 53 when missing
 void writeWholeFile(const std::string& path, const std::string& bytes);  // raises 75 on failure
 void deleteFileIfPresent(const std::string& path);
+
+// Paths in source text may separate with "\\" as well as "/".
+std::string nativePath(std::string_view path);
+
+// The path itself when it exists, else a file of the same folder whose name
+// differs only in case (sources written for a case-blind system name
+// "80c32" for 80C32.cpu), else the path unchanged.
+std::string findFileIgnoringCase(const std::string& path);
 
 }  // namespace korvex

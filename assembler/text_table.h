@@ -74,6 +74,19 @@ public:
         return hit->second.front();
     }
 
+    // Every row holding `key`, in row order.
+    std::vector<int> findAll(const std::string& key) const {
+        if (key.empty()) {
+            std::vector<int> rows;
+            for (std::size_t i = 0; i < rows_.size(); ++i) {
+                if (rows_[i][0].empty()) rows.push_back(static_cast<int>(i));
+            }
+            return rows;
+        }
+        const auto hit = index_.find(key);
+        return hit == index_.end() ? std::vector<int>{} : hit->second;
+    }
+
 private:
     void indexKey(const std::string& key, int i) {
         if (key.empty()) return;

@@ -119,13 +119,9 @@ int main(int argc, char** argv) {
         if (outcome != RunOutcome::Completed) {
             exitCode = kExitFailure;
         } else {
-            for (const SourceRow& row : assembler.state().sourceTable) {
-                if (trimBlanks(row.marker).empty()) continue;
-                const std::string& source = row.sourceText.empty() ? row.statement : row.sourceText;
-                std::cout << toTerminal("Zeile " + row.position + " " + source + " " + row.marker)
-                          << '\n';
-                exitCode = kExitFindings;
-            }
+            const std::string& report = assembler.state().reportText;
+            std::cout << toTerminal(replaceAll(report, "\r\n", "\n")) << std::flush;
+            if (startsWith(report, "Warnungen/Fehler:")) exitCode = kExitFindings;
         }
     } catch (const RuntimeFailure& failure) {
         std::cerr << toTerminal(text8("Fehler Nummer") + decimalText(failure.number(), true) + ": " +

@@ -21,8 +21,14 @@ struct Result {
     std::string output;
 };
 
+Result runCommand(const std::string& command);
+
 Result run(const std::string& arguments) {
     const std::string command = std::string(KORVEX_ASM) + " " + arguments + " 2>&1";
+    return runCommand(command);
+}
+
+Result runCommand(const std::string& command) {
     Result result{-1, {}};
     FILE* pipe = popen(command.c_str(), "r");
     if (pipe == nullptr) return result;
@@ -40,7 +46,14 @@ std::string readBytes(const std::string& path) {
 
 class KorvexAsmTest : public ::testing::Test {
 protected:
-    void SetUp() override { folder_ = korvex::makePrivateTemporaryFolder(); }
+    void SetUp() override {
+        folder_ = korvex::makePrivateTemporaryFolder();
+        write("testchip.cpu", "VECTOR\r\n0000 RESET\r\nSFR\r\nE0 ACC\r\nBIT\r\nD7 CY\r\n");
+    }
+    // Runs with the test folder as program folder, which holds a small driver.
+    Result runHere(const std::string& arguments) {
+        return run("--program-folder " + folder_ + " " + arguments);
+    }
     void TearDown() override { fs::remove_all(folder_); }
     std::string write(const std::string& name, const std::string& text) {
         std::ofstream(folder_ + name, std::ios::binary) << text;
@@ -59,38 +72,47 @@ TEST_F(KorvexAsmTest, UsageAndHelp) {
 }
 
 TEST_F(KorvexAsmTest, DefaultOutputsLandBesideTheSource) {
-    const std::string source = write("prog.a51", "NOP\r\nRET\r\n");
-    EXPECT_EQ(run(source).exitCode, 0);
+    const std::string source = write("prog.a51", "#cpu testchip\r\nNOP\r\nRET\r\n");
+    const Result r = runHere(source);
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output, " 3 Zeilen übersetzt. Code Ende bei 0002h.\n");
+    EXPECT_TRUE(fs::exists(folder_ + "prog.l51"));
     EXPECT_TRUE(fs::exists(folder_ + "prog.h51"));
     EXPECT_FALSE(fs::exists(folder_ + "prog.b51"));
     EXPECT_FALSE(fs::exists(folder_ + "prog.s51"));
 }
 
 TEST_F(KorvexAsmTest, FindingsGiveExitOneAndStillWriteEverything) {
-    const std::string source = write("bad.a51", "NOP\r\n  SJMP NOWHERE\r\n");
-    Result r = run("--bin --hex " + source);
+    const std::string source = write("bad.a51", "#cpu testchip\r\nNOP\r\n  SJMP NOWHERE\r\n");
+    Result r = runHere("--bin --hex " + source);
     EXPECT_EQ(r.exitCode, 1);
-    EXPECT_NE(r.output.find("Zeile 1:2   SJMP NOWHERE ;>err6: unbekannter Befehl"),
-              std::string::npos)
+    EXPECT_EQ(r.output.substr(0, r.output.find("\n\n")),
+              "Warnungen/Fehler:\n"
+              "Zeile 1:3   SJMP NOWHERE ;>err6: unbekannter Befehl bzw. Sprungziel nicht gefunden")
         << r.output;
     EXPECT_EQ(readBytes(folder_ + "bad.b51"), std::string("\x00\x80\x00", 3));
 }
 
 TEST_F(KorvexAsmTest, RunTimeFailureWritesNothing) {
     const std::string source = write("empty.a51", "");
-    Result r = run("--all " + source);
+    Result r = runHere("--all " + source);
     EXPECT_EQ(r.exitCode, 2);
     EXPECT_NE(r.output.find("Fehler Nummer 62"), std::string::npos) << r.output;
+    // A source without a driver has no vector and so no report.
+    r = runHere("--all " + write("nocpu.a51", "NOP\r\n"));
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_NE(r.output.find("Typen unverträglich"), std::string::npos) << r.output;
+    EXPECT_FALSE(fs::exists(folder_ + "nocpu.l51"));
     EXPECT_FALSE(fs::exists(folder_ + "empty.h51"));
 }
 
 TEST_F(KorvexAsmTest, HexFileAgreesWithBinaryForAnIndependentReader) {
     if (!fs::exists("/usr/bin/srec_cat")) GTEST_SKIP() << "srec_cat (Debian srecord) fehlt";
-    std::string text = "ORG 10h\r\n";
+    std::string text = "#cpu testchip\r\nORG 10h\r\n";
     for (int i = 0; i < 100; ++i) text += "MOV A,#" + std::to_string(i) + "\r\nLJMP 1234h\r\n";
     text += "ORG 0800h\r\nCALL 10h\r\nEND\r\n";
     const std::string source = write("image.a51", text);
-    ASSERT_EQ(run("--bin --hex " + source).exitCode, 0);
+    ASSERT_EQ(runHere("--bin --hex " + source).exitCode, 0);
     const std::string converted = folder_ + "converted.bin";
     ASSERT_EQ(std::system(("/usr/bin/srec_cat " + folder_ + "image.h51 -Intel -o " + converted +
                            " -Binary")

@@ -9,6 +9,12 @@
 
 namespace korvex::testing {
 
+const char* const kTestDriver =
+    "; Testtreiber\r\n"
+    "VECTOR\r\n0000 RESET\r\n0003 EXTI0\r\n000B TIMER0\r\n"
+    "SFR\r\n81 SP\r\n90 P1\r\n88 TCON\r\n87 PCON\r\nD0 PSW\r\nE0 ACC\r\nF0 B\r\n"
+    "BIT\r\n8E TR1\r\n8C TR0\r\nD7 CY\r\n";
+
 void AssemblerFixture::SetUp() {
     folder_ = makePrivateTemporaryFolder();
     ASSERT_FALSE(folder_.empty());
@@ -17,6 +23,7 @@ void AssemblerFixture::SetUp() {
     settings.temporaryFolder = folder_;
     settings.sourceFolder = folder_;
     assembler_ = std::make_unique<Assembler>(host_, settings);
+    writeFile("test.cpu", kTestDriver);
 }
 
 void AssemblerFixture::TearDown() {
@@ -25,6 +32,7 @@ void AssemblerFixture::TearDown() {
 }
 
 RunOutcome AssemblerFixture::assemble(const std::string& source, OutputSwitches switches) {
+    rowOffset_ = 0;
     writeFile("TmpFile.tmp", source);
     std::string name = folder_ + "prog.a51";
     return assembler_->assembleSource(name, switches);
@@ -32,16 +40,18 @@ RunOutcome AssemblerFixture::assemble(const std::string& source, OutputSwitches 
 
 RunOutcome AssemblerFixture::assembleLines(const std::vector<std::string>& lines,
                                            OutputSwitches switches) {
-    std::string text;
+    std::string text = "#cpu test\r\n";
     for (const auto& line : lines) text += line + "\r\n";
-    return assemble(text, switches);
+    const RunOutcome outcome = assemble(text, switches);
+    rowOffset_ = 1;
+    return outcome;
 }
 
 std::string AssemblerFixture::image() const { return binaryImage(assembler_->state().codeText); }
 
 std::string AssemblerFixture::bytesOfRow(int index) const {
     CodeEntry entry;
-    std::string code = assembler_->state().codeText.at(static_cast<std::size_t>(index));
+    std::string code = this->code(index);
     cleanText(code);
     readCodeEntry(code, entry);
     std::string out;
@@ -50,7 +60,11 @@ std::string AssemblerFixture::bytesOfRow(int index) const {
 }
 
 const SourceRow& AssemblerFixture::row(int index) const {
-    return assembler_->state().sourceTable.at(static_cast<std::size_t>(index));
+    return assembler_->state().sourceTable.at(static_cast<std::size_t>(index + rowOffset_));
+}
+
+const std::string& AssemblerFixture::code(int index) const {
+    return assembler_->state().codeText.at(static_cast<std::size_t>(index + rowOffset_));
 }
 
 int AssemblerFixture::markerNumber(int index) const {

@@ -11,16 +11,19 @@
 
 namespace korvex::testing {
 
-// Records every box, and answers with the scripted answers, else the first button.
-class RecordingHost : public QuietHost {};
+// A small driver that every test source reads first: a run needs at least one
+// vector to get its report.
+extern const char* const kTestDriver;
 
 class AssemblerFixture : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
 
-    // Writes `source` (lines joined with CR LF) as the temporary file and runs.
+    // Writes `source` as the temporary file and runs it as it stands.
     RunOutcome assemble(const std::string& source, OutputSwitches switches = {});
+    // Runs "#cpu test" followed by the lines, joined with CR LF. Row numbers of
+    // the accessors below then count from the first of `lines`.
     RunOutcome assembleLines(const std::vector<std::string>& lines, OutputSwitches switches = {});
 
     // The cleaned code image of the last run, as the binary writer makes it.
@@ -28,6 +31,7 @@ protected:
     // Bytes of the first row that emits code, as hexadecimal text "74 05".
     std::string bytesOfRow(int row) const;
     const SourceRow& row(int index) const;
+    const std::string& code(int index) const;
     // The marker number of a row (0 when clean).
     int markerNumber(int row) const;
     // Rows with a marker, as "position marker".
@@ -37,7 +41,8 @@ protected:
     std::string readFile(const std::string& name) const;
 
     std::string folder_;  // ends in "/"
-    RecordingHost host_;
+    int rowOffset_ = 0;
+    QuietHost host_;
     std::unique_ptr<Assembler> assembler_;
 };
 

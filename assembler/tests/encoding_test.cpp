@@ -43,8 +43,16 @@ TEST_F(EncodingTest, FaultyOperandsKeepTheirPlaceAndReportTheLaterCheck) {
         {"NOP 1", "00", 1},
         {"END", "80 FE", 0},
         {"END X", "80 FE", 32},
-        {"#", "00", 29},
     });
+}
+
+TEST_F(EncodingTest, BlankBehindTheHashFailsAsAStatementOfItsOwnRow) {
+    // The directive code takes the line's row, the statement the next one.
+    ASSERT_EQ(assembleLines({"#   byte X"}), RunOutcome::Completed);
+    EXPECT_EQ(code(0), "");
+    EXPECT_EQ(markerNumber(1), 29);
+    EXPECT_EQ(bytesOfRow(1), "00");
+    EXPECT_EQ(row(1).position, row(0).position);
 }
 
 TEST_F(EncodingTest, CaseAndBlanksInOperandsDoNotMatter) {
@@ -132,11 +140,11 @@ TEST_F(EncodingTest, OrgMovesTheCounterAndWarnsBackwards) {
     ASSERT_EQ(assembleLines({"ORG 10h", "NOP", "ORG 8", "NOP", "ORG NOWHERE", "NOP"}),
               RunOutcome::Completed);
     EXPECT_EQ(bytesOfRow(1), "00");
-    EXPECT_EQ(assembler_->state().codeText[1].substr(0, 4), "0010");
+    EXPECT_EQ(code(1).substr(0, 4), "0010");
     EXPECT_EQ(markerNumber(2), 11);
-    EXPECT_EQ(assembler_->state().codeText[3].substr(0, 4), "0008");
+    EXPECT_EQ(code(3).substr(0, 4), "0008");
     EXPECT_EQ(markerNumber(4), 9);
-    EXPECT_EQ(assembler_->state().codeText[5].substr(0, 4), "0009");
+    EXPECT_EQ(code(5).substr(0, 4), "0009");
 }
 
 TEST_F(EncodingTest, ValuesThatCannotBeStoredEndTheRun) {

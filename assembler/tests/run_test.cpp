@@ -14,11 +14,11 @@ namespace {
 using RunTest = AssemblerFixture;
 
 TEST_F(RunTest, LineEndsAndTheLastLine) {
-    ASSERT_EQ(assemble("NOP\rNOP\r\nNOP\nRET"), RunOutcome::Completed);
+    ASSERT_EQ(assemble("#cpu test\rNOP\rNOP\r\nNOP\nRET"), RunOutcome::Completed);
     EXPECT_EQ(image(), std::string("\0\0\0\x22", 4));
     // A trailing line end does not make an extra row.
-    ASSERT_EQ(assemble("NOP\r\n"), RunOutcome::Completed);
-    EXPECT_EQ(assembler_->state().sourceTable.size(), 1u);
+    ASSERT_EQ(assemble("#cpu test\r\nNOP\r\n"), RunOutcome::Completed);
+    EXPECT_EQ(assembler_->state().sourceTable.size(), 2u);
 }
 
 TEST_F(RunTest, EmptySourceReadsPastTheEnd) {
@@ -30,8 +30,8 @@ TEST_F(RunTest, EmptySourceReadsPastTheEnd) {
 }
 
 TEST_F(RunTest, SixteenBitLineCounterOverflows) {
-    std::string source;
-    for (int i = 0; i < 32767; ++i) source += ";\r\n";
+    std::string source = "#cpu test\r\n";
+    for (int i = 1; i < 32767; ++i) source += ";\r\n";
     EXPECT_EQ(assemble(source), RunOutcome::Completed);
     source += ";\r\n";
     EXPECT_EQ(assemble(source), RunOutcome::Failed);
@@ -53,11 +53,11 @@ TEST_F(RunTest, FindingsNeverSuppressOutputs) {
     // the second pass: the address of the next row does not move, so the hex
     // file shows a break.
     EXPECT_EQ(readFile("prog.h51"), ":0300000074010088\r\n:03000400020000F7\r\n:00000001FF\r\n");
-    EXPECT_EQ(readFile("prog.s51"), "\"\",\"\",\"\"\r\n");
+    EXPECT_EQ(readFile("prog.s51"), "\"\",\"\",\"\"\r\n");  // no symbol: one empty row
 }
 
 TEST_F(RunTest, ExtensionIsCutOnlyNearTheEnd) {
-    writeFile("TmpFile.tmp", "NOP\r\n");
+    writeFile("TmpFile.tmp", "#cpu test\r\nNOP\r\n");
     std::string name = folder_ + "my.project/source";
     std::filesystem::create_directories(folder_ + "my.project");
     ASSERT_EQ(assembler_->assembleSource(name, {false, true, false, false}), RunOutcome::Completed);
@@ -82,7 +82,7 @@ TEST_F(RunTest, CancelStopsWithoutReportOrOutput) {
     AssemblerSettings settings = assembler_->settings();
     Assembler assembler(host, settings);
     host.assembler = &assembler;
-    writeFile("TmpFile.tmp", "NOP\r\nNOP\r\nNOP\r\nNOP\r\n");
+    writeFile("TmpFile.tmp", "#cpu test\r\nNOP\r\nNOP\r\nNOP\r\n");
     std::string name = folder_ + "prog.a51";
     EXPECT_EQ(assembler.assembleSource(name, {true, true, true, true}), RunOutcome::Aborted);
     EXPECT_EQ(assembler.state().sourceTable.size(), 2u);
