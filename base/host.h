@@ -3,6 +3,7 @@
 // tools, the Qt workbench and the tests each implement it; tests script the
 // answers and record the boxes. All texts are Windows-1252.
 
+#include <map>
 #include <optional>
 #include <string>
 
@@ -33,17 +34,23 @@ public:
 };
 
 // A host without a screen: every box answers its first button and is
-// remembered, dialog text is collected, no window is open.
+// remembered, dialog text is collected, and the editor windows are a map from
+// caption to text.
 class QuietHost : public Host {
 public:
     MessageAnswer messageBox(const std::string& title, const std::string& text,
                              MessageButtons buttons, MessageIcon icon) override;
     void processPendingEvents() override {}
     void setDialogText(const std::string& text) override { dialogText = text; }
-    void appendDialogText(const std::string& text) override { dialogText += text; }
-    std::optional<std::string> openWindowText(const std::string&) override { return std::nullopt; }
+    void appendDialogText(const std::string& text) override {
+        dialogText += text;
+        appendedText += text;
+    }
+    std::optional<std::string> openWindowText(const std::string& caption) override;
 
+    std::map<std::string, std::string> windows;
     std::string dialogText;
+    std::string appendedText;
     std::string lastBoxTitle;
     std::string lastBoxText;
     int boxCount = 0;
