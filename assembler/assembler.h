@@ -85,6 +85,11 @@ public:
     void substituteParameter(std::string& body, const std::string& parameter,
                              const std::string& argument);
 
+    // Structures and tables.
+    void compileCondition(std::string text);
+    void compileExitCondition(std::string text);
+    void compileTable();
+
     // The report and the listing of the last run.
     void buildReport(std::int32_t endOfCode);
     std::string listingText() const;
@@ -140,6 +145,28 @@ private:
     bool encodeAssignment();
     void encodeImplicitCall();
     void writeListingTail();
+
+    // Structures: each returns whether the listing tail still has to run.
+    bool compileIf();
+    bool compileElse();
+    bool compileElseIf();
+    bool compileEndIf();
+    bool compileExit();
+    void compileExitIf();
+    void compileExitFor();
+    void compileExitLoop();
+    bool compileFor();
+    bool compileNext();
+    bool compileLoop();
+    bool compileLoopEnd();
+    bool compileConditionForm(const std::string& text, bool jumpWhenTrue);
+    void addExitEntry(std::vector<std::string>& patches, int level);
+    void resolveExits(std::vector<std::string>& patches, int level, std::int32_t target,
+                      std::int32_t extra);
+    void patchLastByte(std::int32_t line, std::int32_t length, std::int32_t distance);
+    void markOutOfRange(std::int32_t line);
+    void growForNewRow();
+    void compileTableItem(const std::string& item, bool& sawQuote, bool words);
 
     void genericError();
     void storeByte(int index, std::int64_t value);

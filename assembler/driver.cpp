@@ -70,6 +70,12 @@ void Assembler::resetRun() {
     state_.macroBodies.assign(1, std::string());
     state_.macroParameters.assign(1, std::string());
     state_.includeList.assign(1, std::string());
+    state_.ifStack.clear();
+    state_.forStack.clear();
+    state_.loopStack.clear();
+    state_.exitIfPatches.clear();
+    state_.exitForPatches.clear();
+    state_.exitLoopPatches.clear();
     state_.reportText.clear();
     files_.emplace(1, SourceFile::open(settings_.temporaryFolder + "TmpFile.tmp"));
 }

@@ -63,10 +63,42 @@ void Assembler::encodeInstruction() {
         encodeLongJumpOrCall();
     } else if (mnemonic == "ACALL" || mnemonic == "AJMP") {
         encodeAbsoluteJumpOrCall();
+    } else if (mnemonic == "DB" || mnemonic == "DW") {
+        // Tables write their own code text and move the counter themselves.
+        compileTable();
+        if (state_.errorNumber != 0) recordError();
+        return;
     } else if (mnemonic == "ORG") {
         if (encodeOrg()) return;
-    } else if (mnemonic == "END" && t[1] != "IF" && t[1] != "LOOP") {
+    } else if (mnemonic == "IF") {
+        if (!compileIf()) return;
+    } else if (mnemonic == "ELSE") {
+        if (!t[1].empty()) {
+            state_.errorNumber = 1;
+        } else if (!compileElse()) {
+            return;
+        }
+    } else if (mnemonic == "ELSEIF") {
+        if (!compileElseIf()) return;
+    } else if ((mnemonic == "END" || mnemonic == "UNTIL") && t[1] == "IF") {
+        compileEndIf();
+        return;
+    } else if ((mnemonic == "END" && t[1] == "LOOP") || mnemonic == "UNTIL") {
+        if (!compileLoopEnd()) return;
+    } else if (mnemonic == "END") {
         encodeEnd();
+    } else if (mnemonic == "LOOP") {
+        if (!compileLoop()) return;
+    } else if (mnemonic == "EXIT") {
+        if (!compileExit()) return;
+    } else if (mnemonic == "FOR") {
+        if (!t[2].empty()) {
+            state_.errorNumber = 32;
+        } else if (!compileFor()) {
+            return;
+        }
+    } else if (mnemonic == "NEXT") {
+        if (!compileNext()) return;
     } else if (mnemonic == "CPU") {
         readCpuDriver(t[0], t[1]);
         setCodeText(std::string(kFourTabs));

@@ -39,6 +39,26 @@ inline constexpr std::int32_t kValueContext = 0;
 inline constexpr std::int32_t kLabelContext = 7;
 inline constexpr std::int32_t kBitContext = 8;
 
+// One open IF: the branch that waits for its offset.
+struct IfRow {
+    std::int32_t branchLine = 0;
+    std::int32_t branchAddress = 0;
+    std::int32_t branchLength = 0;
+    std::int32_t elseSeen = 0;
+};
+
+struct ForRow {
+    std::int32_t counterValue = 0;
+    std::int32_t counterIsDirect = 0;
+    std::int32_t loopHead = 0;
+};
+
+struct LoopRow {
+    std::int32_t whileLine = 0;
+    std::int32_t loopHead = 0;
+    std::int32_t whileLength = 0;
+};
+
 struct RunState {
     Int16 currentFile = 1;
     std::int32_t currentRow = 0;
@@ -84,6 +104,16 @@ struct RunState {
     std::vector<std::string> macroBodies;
     std::vector<std::string> macroParameters;
     std::vector<std::string> includeList;
+
+    // Structures: rows grow when needed and are never shrunk; the counts above
+    // tell how many are open. Exit jumps wait as "level,line,length" texts, an
+    // empty text being a free slot.
+    std::vector<IfRow> ifStack;
+    std::vector<ForRow> forStack;
+    std::vector<LoopRow> loopStack;
+    std::vector<std::string> exitIfPatches;
+    std::vector<std::string> exitForPatches;
+    std::vector<std::string> exitLoopPatches;
 };
 
 }  // namespace korvex
