@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "assembler/assembler.h"
+#include "assembler/compile_source.h"
 #include "assembler/source_file.h"
 #include "base/cp1252.h"
 #include "base/program_folder.h"
@@ -99,22 +100,34 @@ int main(int argc, char** argv) {
         return kExitFailure;
     }
 
+    // The file is compiled as the workbench compiles a window showing it:
+    // a member of a project compiles the project.
     CliHost host;
+    const auto compiled =
+        decideCompileSource(sourcePath.string(), readWholeFile(sourcePath.string()), host);
+    if (!compiled) {
+        if (readWholeFile(sourcePath.string()).empty()) {
+            std::cerr << toTerminal(text8("korvex-asm: Der Quelltext ist leer, nichts zu übersetzen."))
+                      << '\n';
+        }
+        return kExitFailure;
+    }
+
     AssemblerSettings settings;
     settings.programFolder =
         resolveProgramFolder(processProgramFolderSources(options.programFolder));
     settings.temporaryFolder = makePrivateTemporaryFolder();
-    settings.sourceFolder = withTrailingSlash(sourcePath.parent_path().string());
+    settings.sourceFolder =
+        withTrailingSlash(std::filesystem::path(compiled->name).parent_path().string());
     if (settings.temporaryFolder.empty()) {
-        std::cerr << "korvex-asm: kein Ordner für temporäre Dateien.\n";
+        std::cerr << toTerminal(text8("korvex-asm: kein Ordner für temporäre Dateien.")) << '\n';
         return kExitFailure;
     }
-
     int exitCode = kExitClean;
     Assembler assembler(host, settings);
     try {
-        writeWholeFile(settings.temporaryFolder + "TmpFile.tmp", readWholeFile(sourcePath.string()));
-        std::string sourceName = sourcePath.string();
+        writeWholeFile(settings.temporaryFolder + "TmpFile.tmp", compiled->text);
+        std::string sourceName = compiled->name;
         const RunOutcome outcome = assembler.assembleSource(sourceName, options.switches);
         if (outcome != RunOutcome::Completed) {
             exitCode = kExitFailure;

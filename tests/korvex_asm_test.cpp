@@ -94,16 +94,27 @@ TEST_F(KorvexAsmTest, FindingsGiveExitOneAndStillWriteEverything) {
 }
 
 TEST_F(KorvexAsmTest, RunTimeFailureWritesNothing) {
-    const std::string source = write("empty.a51", "");
-    Result r = runHere("--all " + source);
+    Result r = runHere("--all " + write("empty.a51", ""));
     EXPECT_EQ(r.exitCode, 2);
-    EXPECT_NE(r.output.find("Fehler Nummer 62"), std::string::npos) << r.output;
+    EXPECT_NE(r.output.find("leer"), std::string::npos) << r.output;
+    r = runHere("--all " + write("member.a51", "#part of missing.a51\r\nNOP\r\n"));
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_NE(r.output.find("Kann Projektdatei missing.a51 nicht finden."), std::string::npos)
+        << r.output;
     // A source without a driver has no vector and so no report.
     r = runHere("--all " + write("nocpu.a51", "NOP\r\n"));
     EXPECT_EQ(r.exitCode, 2);
     EXPECT_NE(r.output.find("Typen unverträglich"), std::string::npos) << r.output;
     EXPECT_FALSE(fs::exists(folder_ + "nocpu.l51"));
     EXPECT_FALSE(fs::exists(folder_ + "empty.h51"));
+}
+
+TEST_F(KorvexAsmTest, MemberOfAProjectCompilesTheProject) {
+    write("main.a51", "#cpu testchip\r\n#include part.a51\r\nRET\r\n");
+    const std::string part = write("part.a51", "; #PART OF main.a51\r\nNOP\r\n");
+    ASSERT_EQ(runHere("--bin " + part).exitCode, 0);
+    EXPECT_EQ(readBytes(folder_ + "main.b51"), std::string("\x00\x22", 2));
+    EXPECT_FALSE(fs::exists(folder_ + "part.b51"));
 }
 
 TEST_F(KorvexAsmTest, HexFileAgreesWithBinaryForAnIndependentReader) {

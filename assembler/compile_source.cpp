@@ -1,0 +1,42 @@
+#include "assembler/compile_source.h"
+
+#include <filesystem>
+
+#include "assembler/source_file.h"
+#include "base/cp1252.h"
+#include "base/text.h"
+
+namespace korvex {
+
+std::optional<CompileSource> decideCompileSource(const std::string& caption,
+                                                 const std::string& text, Host& host) {
+    if (startsWith(caption, "Disassembling") || text.empty()) return std::nullopt;
+    // Only the first occurrence counts, in a comment as well.
+    const std::size_t found = upperCase(text).find("#PART OF ");
+    if (found == std::string::npos) return CompileSource{caption, text};
+
+    const std::size_t start = found + 9;
+    const std::size_t lineEnd = text.find("\r\n", start);
+    if (lineEnd == std::string::npos) return std::nullopt;
+    const std::string written = trimBlanks(removeAll(text.substr(start, lineEnd - start), '\''));
+
+    // A relative project name is taken from the folder of the window's file.
+    std::string project = toUtf8(nativePath(written));
+    if (!startsWith(project, "/")) {
+        project = std::filesystem::path(caption).parent_path().string() + "/" + project;
+    }
+    for (const std::string& candidate : {written, project}) {
+        if (auto windowText = host.openWindowText(candidate)) {
+            return CompileSource{candidate, std::move(*windowText)};
+        }
+    }
+    const std::string onDisk = findFileIgnoringCase(project);
+    if (fileExists(onDisk)) return CompileSource{onDisk, readWholeFile(onDisk)};
+    host.messageBox("Korvex",
+                    "Kann Projektdatei " + written + " nicht finden." + std::string(kCrLf) +
+                        text8("Fehler ausgelöst von #Part of .."),
+                    MessageButtons::Ok, MessageIcon::Exclamation);
+    return std::nullopt;
+}
+
+}  // namespace korvex

@@ -1,0 +1,25 @@
+#pragma once
+// What the compile command assembles: the text of the active window, or, when
+// that text names a project with "#PART OF", the project file's text from its
+// own window or from disk.
+
+#include <optional>
+#include <string>
+
+#include "base/host.h"
+
+namespace korvex {
+
+struct CompileSource {
+    std::string name;  // the source name the run gets: outputs land beside it
+    std::string text;  // what the temporary file receives
+};
+
+// `caption` is the active window's caption (its file path), `text` its text.
+// Nothing comes back for a disassembly window, an empty text, a "#PART OF"
+// line without a line end behind it, or a project that can't be found; the
+// last of these says so through the host's message box.
+std::optional<CompileSource> decideCompileSource(const std::string& caption,
+                                                 const std::string& text, Host& host);
+
+}  // namespace korvex
