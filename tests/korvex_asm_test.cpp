@@ -132,10 +132,16 @@ TEST_F(KorvexAsmTest, HexFileAgreesWithBinaryForAnIndependentReader) {
     EXPECT_EQ(readBytes(converted), readBytes(folder_ + "image.b51"));
 }
 
-TEST_F(KorvexAsmTest, BundledExampleAssemblesClean) {
-    fs::copy_file(std::string(KORVEX_SOURCE_DIR) + "/examples/beispiel.a51", folder_ + "b.a51");
-    Result r = run("--all " + folder_ + "b.a51");
+TEST_F(KorvexAsmTest, BundledExamplesAssembleClean) {
+    for (const char* name : {"beispiel.a51", "sprache.a51", "sprache_teil.a51"}) {
+        fs::copy_file(std::string(KORVEX_SOURCE_DIR) + "/examples/" + name, folder_ + name,
+                      fs::copy_options::overwrite_existing);
+    }
+    EXPECT_EQ(run("--all " + folder_ + "beispiel.a51").exitCode, 0);
+    // The part names its project, so compiling it compiles the whole language example.
+    Result r = run("--all " + folder_ + "sprache_teil.a51");
     EXPECT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_TRUE(fs::exists(folder_ + "sprache.h51"));
 }
 
 }  // namespace
