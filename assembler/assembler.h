@@ -173,8 +173,11 @@ private:
     void storeLongTarget(std::int32_t target);
     bool sameBlock(std::int32_t from, std::int32_t target) const;
 
+    static constexpr int kDeepestExpression = 4000;
+
     Host& host_;
     AssemblerSettings settings_;
+    int expressionDepth_ = 0;
     RunState state_;
     bool abortRequested_ = false;
     std::map<int, SourceFile> files_;

@@ -57,6 +57,18 @@ std::int32_t hexValue(const std::string& digits) {
 }  // namespace
 
 void Assembler::evaluateExpression(std::string& text, std::int32_t& value, bool& found) {
+    // Each operator is one level deeper; a line of thousands of them would
+    // exhaust the stack, so the run ends with the classic failure instead.
+    struct DepthGuard {
+        explicit DepthGuard(int& depth) : depth_(depth) {
+            if (++depth_ > kDeepestExpression) {
+                --depth_;
+                raise(FailureNumber::OutOfStackSpace);
+            }
+        }
+        ~DepthGuard() { --depth_; }
+        int& depth_;
+    } guard(expressionDepth_);
     if (text.empty()) {
         found = false;
         return;

@@ -13,6 +13,7 @@ std::string failureDescription(int number) {
         case 9: return text8("Index außerhalb des gültigen Bereichs");
         case 11: return text8("Division durch Null");
         case 13: return text8("Typen unverträglich");
+        case 28: return text8("Nicht genügend Stapelspeicher");
         case 52: return text8("Dateiname oder -nummer falsch");
         case 53: return text8("Datei nicht gefunden");
         case 62: return text8("Einlesen hinter Dateiende");

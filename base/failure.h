@@ -16,6 +16,7 @@ enum class FailureNumber : int {
     IndexOutOfRange = 9,
     DivisionByZero = 11,
     TypeMismatch = 13,
+    OutOfStackSpace = 28,
     BadFileName = 52,
     FileNotFound = 53,
     ReadPastEnd = 62,

@@ -137,6 +137,19 @@ TEST_F(ExpressionTest, HostOverflowEndsTheRun) {
     EXPECT_THROW(assembler_->evaluateExpression(huge, value, found), RuntimeFailure);
     std::string product = "65536*65536";
     EXPECT_THROW(assembler_->evaluateExpression(product, value, found), RuntimeFailure);
+    std::string endless = "1";
+    for (int i = 0; i < 100000; ++i) endless += "+1";
+    try {
+        assembler_->evaluateExpression(endless, value, found);
+        ADD_FAILURE() << "no failure";
+    } catch (const RuntimeFailure& failure) {
+        EXPECT_EQ(failure.number(), 28);
+    }
+    // The guard unwinds with the failure: a later expression evaluates again.
+    std::string plain = "2+3";
+    value = 0;
+    assembler_->evaluateExpression(plain, value, found);
+    EXPECT_EQ(value, 5);
 }
 
 }  // namespace
