@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Times as31 and korvex-asm on the same generated 32,000-line source and checks
-# that both produce the same binary image.
+# that both produce the same binary image. as31 gets the driver line (#cpu)
+# as a comment; everything else is the same text.
 #
 #   bench/compare_as31.sh [KORVEX_ASM [BENCH_PROGRAM]]
 #   (defaults: build/bin/korvex-asm and build/bin/korvex_bench_assembler;
@@ -21,18 +22,19 @@ command -v as31 >/dev/null || { echo "as31 ist nicht installiert." >&2; exit 1; 
 work=$(mktemp -d "${TMPDIR:-/tmp}/korvex-vergleich-XXXXXX")
 trap 'rm -rf "$work"' EXIT
 "$generator" --write-source "$work/quelle.asm" "$lines"
-cp "$work/quelle.asm" "$work/quelle.a51"
+mv "$work/quelle.asm" "$work/quelle.a51"
+sed '1s/^/;/' "$work/quelle.a51" >"$work/quelle.asm"
 
 # Wall-clock seconds of one run; output goes away, a failure stops the script.
 seconds() {
     local TIMEFORMAT=%3R
-    { time "$@" >/dev/null 2>&1; } 2>&1
+    { time "$@" >/dev/null 2>&1; } 2>&1 || { echo "fehlgeschlagen: $*" >&2; return 1; }
 }
 
 declare -A times
 for ((i = 1; i <= runs; ++i)); do
     times[as31]+="$(seconds as31 -Fbin "$work/quelle.asm") "
-    times[korvex]+="$(seconds "$korvex_asm" --program-folder "$work" --bin --hex "$work/quelle.a51") "
+    times[korvex]+="$(seconds "$korvex_asm" --program-folder "$root/data/cpu" --bin --hex "$work/quelle.a51") "
 done
 
 if cmp -s "$work/quelle.bin" "$work/quelle.b51"; then same=ja; else same=NEIN; fi

@@ -1,8 +1,9 @@
 #pragma once
 // A deterministic 8051 source of plain instructions for the speed measurements.
-// Every 16th line is a label standing alone; near jumps go to the next label,
-// long jumps and calls to labels further down, so the second pass has work.
-// The syntax is the common ground with as31, so both can assemble the same file.
+// The first line names the driver; then every 16th line is a label standing
+// alone. Near jumps go to the next label, long jumps and calls to labels
+// further down, so the second pass has work. The syntax is the common ground
+// with as31: commented out, the driver line is all that as31 has to skip.
 
 #include <cstdint>
 #include <string>
@@ -11,7 +12,7 @@ namespace korvex::bench {
 
 inline std::string generateSource(int lineCount) {
     constexpr int kBlock = 16;
-    const int labels = (lineCount + kBlock - 1) / kBlock;
+    const int labels = (lineCount - 1 + kBlock - 1) / kBlock;
     std::uint32_t seed = 0x51u;
     auto next = [&seed](std::uint32_t range) {
         seed = seed * 1664525u + 1013904223u;  // fixed LCG: the same text on every machine
@@ -27,42 +28,54 @@ inline std::string generateSource(int lineCount) {
     };
     auto immediate = [&] { return "#" + (next(2) ? std::to_string(next(256)) : hexByte()); };
 
-    std::string text;
+    std::string text = "#cpu 8051\r\n";
     text.reserve(static_cast<std::size_t>(lineCount) * 18);
-    for (int line = 0; line < lineCount; ++line) {
-        const int block = line / kBlock;
-        if (line % kBlock == 0) {
+    for (int line = 1; line < lineCount; ++line) {
+        const int block = (line - 1) / kBlock;
+        if ((line - 1) % kBlock == 0) {
             text += label(block) + ":\r\n";
             continue;
         }
         const std::string nearTarget = label(block + 1 < labels ? block + 1 : block);
         const int far = block + 1 + static_cast<int>(next(300));
-        const std::string farTarget = label(far < labels ? far : labels - 1);
-        std::string s;
+        const std::string farTarget = label(far < labels ? far : 0);  // and L0 is used too
         // Mostly one- and two-byte forms, so 32,000 lines stay inside 64K of code.
-        switch (next(24)) {
-            case 0: case 1: s = "mov a," + reg(); break;
-            case 2: case 3: s = "add a," + reg(); break;
-            case 4: s = "inc " + reg(); break;
-            case 5: s = "mov " + reg() + ",a"; break;
-            case 6: s = "anl a," + reg(); break;
-            case 7: s = "xrl a,@r" + std::to_string(next(2)); break;
-            case 8: s = "orl a,@r" + std::to_string(next(2)); break;
-            case 9: s = "mov a," + immediate(); break;
-            case 10: s = "add a," + direct(); break;
-            case 11: s = "mov " + reg() + "," + immediate(); break;
-            case 12: s = "mov " + direct() + ",a"; break;
-            case 13: s = "anl a," + immediate(); break;
-            case 14: s = (next(2) ? "sjmp " : "jnz ") + nearTarget; break;
-            case 15: s = "djnz " + reg() + "," + nearTarget; break;
-            case 16: s = "mov " + direct() + "," + immediate(); break;
-            case 17: s = "mov " + direct() + "," + direct(); break;
-            case 18: s = (next(2) ? "anl " : "orl ") + direct() + "," + immediate(); break;
-            case 19: s = "cjne a," + immediate() + "," + nearTarget; break;
-            case 20: s = "cjne " + reg() + "," + immediate() + "," + nearTarget; break;
+        // A block ends with a near jump, so that every label is used.
+        static constexpr std::uint32_t kNearForms[] = {14, 15, 19, 20, 23};
+        const bool lastOfBlock = line % kBlock == 0;
+        const std::uint32_t form = lastOfBlock ? kNearForms[next(5)] : next(24);
+        // The operands are drawn one statement at a time: the order of the
+        // operands of + is unspecified, and the text must not depend on the compiler.
+        const std::string r = reg();
+        const std::string d = direct();
+        const std::string d2 = direct();
+        const std::string imm = immediate();
+        const std::string ri = "@r" + std::to_string(next(2));
+        const bool other = next(2) == 1;
+        std::string s;
+        switch (form) {
+            case 0: case 1: s = "mov a," + r; break;
+            case 2: case 3: s = "add a," + r; break;
+            case 4: s = "inc " + r; break;
+            case 5: s = "mov " + r + ",a"; break;
+            case 6: s = "anl a," + r; break;
+            case 7: s = "xrl a," + ri; break;
+            case 8: s = "orl a," + ri; break;
+            case 9: s = "mov a," + imm; break;
+            case 10: s = "add a," + d; break;
+            case 11: s = "mov " + r + "," + imm; break;
+            case 12: s = "mov " + d + ",a"; break;
+            case 13: s = "anl a," + imm; break;
+            case 14: s = (other ? "sjmp " : "jnz ") + nearTarget; break;
+            case 15: s = "djnz " + r + "," + nearTarget; break;
+            case 16: s = "mov " + d + "," + imm; break;
+            case 17: s = "mov " + d + "," + d2; break;
+            case 18: s = (other ? "anl " : "orl ") + d + "," + imm; break;
+            case 19: s = "cjne a," + imm + "," + nearTarget; break;
+            case 20: s = "cjne " + r + "," + imm + "," + nearTarget; break;
             case 21: s = "ljmp " + farTarget; break;
             case 22: s = "lcall " + farTarget; break;
-            default: s = "djnz " + direct() + "," + nearTarget; break;
+            default: s = "djnz " + d + "," + nearTarget; break;
         }
         text += "\t" + s + "\r\n";
     }

@@ -35,7 +35,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     korvex::writeWholeFile(folder + "TmpFile.tmp",
                            std::string(reinterpret_cast<const char*>(data), size));
     korvex::QuietHost host;
-    korvex::Assembler assembler(host, korvex::AssemblerSettings{folder, folder, folder});
+    korvex::AssemblerSettings settings;
+    settings.programFolder = KORVEX_DRIVER_FOLDER;  // the shipped drivers, so #CPU reads real ones
+    settings.temporaryFolder = settings.sourceFolder = folder;
+    settings.today = korvex::CalendarDate{1, 1, 2024};  // the same listing on every day
+    korvex::Assembler assembler(host, settings);
     std::string sourceName = folder + "fuzz.a51";
     assembler.assembleSource(sourceName, korvex::OutputSwitches{true, true, true, true});
     return 0;
