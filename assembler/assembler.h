@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "assembler/run_state.h"
 #include "assembler/source_file.h"
@@ -99,6 +100,8 @@ public:
     RunOutcome runUntrapped(std::string& sourceName, OutputSwitches switches);
 
 private:
+    void evaluatePart(std::string_view text, std::int32_t& value, bool& found,
+                      std::string* caller);
     void foldCharacterLiterals(std::string& text);
     void splitTokens(const std::string& text);
     void expandAllMacros(std::string& line);
@@ -173,7 +176,7 @@ private:
     void storeLongTarget(std::int32_t target);
     bool sameBlock(std::int32_t from, std::int32_t target) const;
 
-    static constexpr int kDeepestExpression = 4000;
+    static constexpr int kDeepestExpression = 1000;
 
     Host& host_;
     AssemblerSettings settings_;

@@ -14,7 +14,7 @@ bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool isHexDigit(char c) { return isDigit(c) || (c >= 'A' && c <= 'F'); }
 
 // The decimal test: digits, a D as last character, a sign in front.
-bool passesDecimalTest(const std::string& text) {
+bool passesDecimalTest(std::string_view text) {
     bool found = true;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
@@ -30,7 +30,7 @@ bool passesDecimalTest(const std::string& text) {
 }
 
 // Numeric value of decimal text; stops at the trailing D. Too large is an overflow.
-std::int32_t decimalValue(const std::string& text) {
+std::int32_t decimalValue(std::string_view text) {
     std::int64_t value = 0;
     bool negative = false;
     std::size_t i = 0;
@@ -45,7 +45,7 @@ std::int32_t decimalValue(const std::string& text) {
 }
 
 // Hexadecimal digits read as a 32-bit number: FFFFFFFF is -1, more digits overflow.
-std::int32_t hexValue(const std::string& digits) {
+std::int32_t hexValue(std::string_view digits) {
     std::uint64_t value = 0;
     for (char c : digits) {
         value = value * 16 + static_cast<std::uint64_t>(isDigit(c) ? c - '0' : c - 'A' + 10);
@@ -54,9 +54,21 @@ std::int32_t hexValue(const std::string& digits) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
 }
 
+std::int32_t decimalCell(const std::string& text) {
+    return static_cast<std::int32_t>(parseDecimal(text));
+}
+
 }  // namespace
 
 void Assembler::evaluateExpression(std::string& text, std::int32_t& value, bool& found) {
+    evaluatePart(text, value, found, &text);
+}
+
+// `caller` is the caller's own text at the top level: a LOW( or HIGH( wrapper
+// is cut off it. The parts of a split are views into it, so a long chain of
+// operators costs no copies.
+void Assembler::evaluatePart(std::string_view text, std::int32_t& value, bool& found,
+                             std::string* caller) {
     // Each operator is one level deeper; a line of thousands of them would
     // exhaust the stack, so the run ends with the classic failure instead.
     struct DepthGuard {
@@ -69,6 +81,7 @@ void Assembler::evaluateExpression(std::string& text, std::int32_t& value, bool&
         ~DepthGuard() { --depth_; }
         int& depth_;
     } guard(expressionDepth_);
+
     if (text.empty()) {
         found = false;
         return;
@@ -78,25 +91,20 @@ void Assembler::evaluateExpression(std::string& text, std::int32_t& value, bool&
     if (context == kLabelContext) {
         const int row = state_.labelTable.find(text);
         if (row >= 0) {
-            value = static_cast<std::int32_t>(parseDecimal(state_.labelTable.at(row, 1)));
+            value = decimalCell(state_.labelTable.at(row, 1));
             state_.labelTable.set(row, 2, "1");
             return;
         }
     }
 
     // Operator split: + and - bind weaker than * and /, all left-associative.
-    std::size_t split = std::string::npos;
-    const std::size_t plusMinus = text.find_last_of("+-");
-    if (plusMinus != std::string::npos) {
-        split = plusMinus;
-    } else {
-        split = text.find_last_of("*/");
-    }
-    if (split != std::string::npos) {
+    std::size_t split = text.find_last_of("+-");
+    if (split == std::string_view::npos) split = text.find_last_of("*/");
+    if (split != std::string_view::npos) {
         const char op = text[split];
-        std::string left = text.substr(0, split);
-        std::string right = text.substr(split + 1);
-        if (left.empty() && !right.empty() && (op == '+' || op == '-')) left.assign(1, '0');
+        std::string_view left = text.substr(0, split);
+        const std::string_view right = text.substr(split + 1);
+        if (left.empty() && !right.empty() && (op == '+' || op == '-')) left = "0";
         if (left.empty() || right.empty()) {
             state_.errorNumber = 39;
             found = false;
@@ -106,8 +114,8 @@ void Assembler::evaluateExpression(std::string& text, std::int32_t& value, bool&
         std::int32_t rightValue = context;
         bool leftFound = false;
         bool rightFound = false;
-        evaluateExpression(left, leftValue, leftFound);
-        evaluateExpression(right, rightValue, rightFound);
+        evaluatePart(left, leftValue, leftFound, nullptr);
+        evaluatePart(right, rightValue, rightFound, nullptr);
         if (!leftFound || !rightFound) {
             if (state_.errorNumber == 0) state_.errorNumber = 7;
             found = false;
@@ -135,12 +143,20 @@ void Assembler::evaluateExpression(std::string& text, std::int32_t& value, bool&
 
     enum class Part { Whole, Low, High } part = Part::Whole;
     if (text.back() == ')' && text.find(')') == text.size() - 1) {
+        std::size_t wrapper = 0;
         if (startsWith(text, "LOW(")) {
-            text = text.substr(4, text.size() - 5);
+            wrapper = 4;
             part = Part::Low;
         } else if (startsWith(text, "HIGH(")) {
-            text = text.substr(5, text.size() - 6);
+            wrapper = 5;
             part = Part::High;
+        }
+        if (wrapper != 0) {
+            text = text.substr(wrapper, text.size() - wrapper - 1);
+            if (caller != nullptr) {
+                *caller = std::string(text);
+                text = *caller;
+            }
         }
     }
 
@@ -161,7 +177,7 @@ void Assembler::evaluateExpression(std::string& text, std::int32_t& value, bool&
     }
     found = false;
     if (text.size() > 1 && text.back() == 'H') {
-        const std::string digits = text.substr(0, text.size() - 1);
+        const std::string_view digits = text.substr(0, text.size() - 1);
         bool allHex = true;
         for (char c : digits) allHex = allHex && isHexDigit(c);
         if (allHex) {
@@ -201,25 +217,25 @@ void Assembler::evaluateExpression(std::string& text, std::int32_t& value, bool&
     found = true;
     if (context != kLabelContext) {
         if (const int row = state_.byteTable.find(text); row >= 0) {
-            value = static_cast<std::int32_t>(parseDecimal(state_.byteTable.at(row, 1)));
+            value = decimalCell(state_.byteTable.at(row, 1));
             state_.byteTable.set(row, 2, "1");
             return;
         }
         if (const int row = state_.wordTable.find(text); row >= 0) {
-            value = static_cast<std::int32_t>(parseDecimal(state_.wordTable.at(row, 1)));
+            value = decimalCell(state_.wordTable.at(row, 1));
             state_.wordTable.set(row, 2, "1");
             applyPart();
             return;
         }
     }
     if (const int row = state_.labelTable.find(text); row >= 0) {
-        value = static_cast<std::int32_t>(parseDecimal(state_.labelTable.at(row, 1)));
+        value = decimalCell(state_.labelTable.at(row, 1));
         state_.labelTable.set(row, 2, "1");
         applyPart();
         return;
     }
     if (const int row = state_.constantTable.find(text); row >= 0) {
-        value = static_cast<std::int32_t>(parseDecimal(state_.constantTable.at(row, 1)));
+        value = decimalCell(state_.constantTable.at(row, 1));
         applyPart();
         return;
     }

@@ -1,5 +1,7 @@
 // Operand classes, bit operands and relative offsets.
 
+#include <algorithm>
+
 #include "assembler/assembler.h"
 #include "base/text.h"
 
@@ -55,14 +57,17 @@ void Assembler::parseBitOperand(std::string& text, std::int16_t& operandClass,
         const std::string right = text.substr(dot + 1);
         // Compared as text: "7" passes, "70" does not.
         if (right > "7" || right < "0") return;
-        std::int32_t bitNumber = 0;
+        // The bit number is read as far as it has digits; a huge one overflows
+        // where it is added to an address, as the host's arithmetic does.
+        std::int64_t digits = 0;
         for (std::size_t i = 0; i < right.size() && right[i] >= '0' && right[i] <= '9'; ++i) {
-            bitNumber = bitNumber * 10 + (right[i] - '0');
+            digits = std::min<std::int64_t>(digits * 10 + (right[i] - '0'), std::int64_t{1} << 40);
         }
+        const auto withBit = [digits](std::int64_t address) { return checkedInt32(address + digits); };
         if (const int sfr = state_.sfrTable.find(left); sfr >= 0) {
             const auto address = static_cast<std::int32_t>(parseHexPrefix(state_.sfrTable.at(sfr, 1)));
             if (address % 8 == 0) {
-                value = address + bitNumber;
+                value = withBit(address);
                 operandClass = ClassBit;
                 return;
             }
@@ -71,10 +76,10 @@ void Assembler::parseBitOperand(std::string& text, std::int16_t& operandClass,
         bool found = true;
         evaluateExpression(left, byteAddress, found);
         if (found && byteAddress >= 0x20 && byteAddress <= 0x2F) {
-            value = (byteAddress - 0x20) * 8 + bitNumber;
+            value = withBit((byteAddress - 0x20) * 8);
             operandClass = ClassBit;
         } else if (found && byteAddress >= 0x80 && byteAddress % 8 == 0) {
-            value = byteAddress + bitNumber;
+            value = withBit(byteAddress);
             operandClass = ClassBit;
         }
         return;

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -62,7 +63,7 @@ public:
     }
 
     // First row whose key equals `key` exactly, or -1.
-    int find(const std::string& key) const {
+    int find(std::string_view key) const {
         if (key.empty()) {
             for (std::size_t i = 0; i < rows_.size(); ++i) {
                 if (rows_[i][0].empty()) return static_cast<int>(i);
@@ -75,7 +76,7 @@ public:
     }
 
     // Every row holding `key`, in row order.
-    std::vector<int> findAll(const std::string& key) const {
+    std::vector<int> findAll(std::string_view key) const {
         if (key.empty()) {
             std::vector<int> rows;
             for (std::size_t i = 0; i < rows_.size(); ++i) {
@@ -102,8 +103,16 @@ private:
         if (rowsOfKey.empty()) index_.erase(hit);
     }
 
+    // Lets a lookup by string_view go without building a string.
+    struct KeyHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view key) const {
+            return std::hash<std::string_view>{}(key);
+        }
+    };
+
     std::vector<Row> rows_;
-    std::unordered_map<std::string, std::vector<int>> index_;
+    std::unordered_map<std::string, std::vector<int>, KeyHash, std::equal_to<>> index_;
 };
 
 }  // namespace korvex

@@ -1,5 +1,7 @@
 // Arbitrary bytes as a source: whatever the text, a run ends with findings or
-// a trapped failure, never with a crash, a hang or a sanitizer report.
+// a trapped failure, never with a crash, a hang or a sanitizer report. An
+// input with a NUL byte is a driver file up to it and a source behind it,
+// and the source reads that driver first.
 
 #include <cstddef>
 #include <cstdint>
@@ -32,8 +34,12 @@ struct ScratchFolder {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const ScratchFolder scratch;
     const std::string& folder = scratch.path;
-    korvex::writeWholeFile(folder + "TmpFile.tmp",
-                           std::string(reinterpret_cast<const char*>(data), size));
+    std::string source(reinterpret_cast<const char*>(data), size);
+    if (const std::size_t nul = source.find('\0'); nul != std::string::npos) {
+        korvex::writeWholeFile(folder + "fuzz.cpu", source.substr(0, nul));
+        source = "#cpu " + folder + "fuzz\r\n" + source.substr(nul + 1);
+    }
+    korvex::writeWholeFile(folder + "TmpFile.tmp", source);
     korvex::QuietHost host;
     korvex::AssemblerSettings settings;
     settings.programFolder = KORVEX_DRIVER_FOLDER;  // the shipped drivers, so #CPU reads real ones

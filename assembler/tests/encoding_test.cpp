@@ -154,6 +154,10 @@ TEST_F(EncodingTest, ValuesThatCannotBeStoredEndTheRun) {
     EXPECT_NE(host_.lastBoxText.find("Sub: assembleSource"), std::string::npos);
     EXPECT_EQ(assembleLines({"LJMP 10000h"}), RunOutcome::Failed);
     EXPECT_EQ(assembleLines({"MOV DPTR,#10000h"}), RunOutcome::Failed);
+    // A bit number of many digits passes the text test ("3..." sorts below "7").
+    EXPECT_EQ(assembleLines({"SETB 20h.3333333333"}), RunOutcome::Failed);
+    ASSERT_EQ(assembleLines({"CLR 0.3333333333"}), RunOutcome::Completed);
+    EXPECT_EQ(markerNumber(0), 8);
 }
 
 }  // namespace
