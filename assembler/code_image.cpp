@@ -8,10 +8,11 @@ namespace korvex {
 bool readCodeEntry(const std::string& entry, CodeEntry& out) {
     out.bytes.clear();
     if (entry.empty()) return false;
-    out.address = static_cast<std::int32_t>(parseHexPrefix(entry.substr(0, 4)));
+    const std::string_view text(entry);
+    out.address = static_cast<std::int32_t>(parseHexPrefix(text.substr(0, 4)));
     // Bytes stand at characters 6, 9, 12 ... (counted from 1), two digits each.
-    for (std::size_t at = 5; at < entry.size(); at += 3) {
-        out.bytes.push_back(static_cast<std::uint8_t>(parseHexPrefix(entry.substr(at, 2))));
+    for (std::size_t at = 5; at < text.size(); at += 3) {
+        out.bytes.push_back(static_cast<std::uint8_t>(parseHexPrefix(text.substr(at, 2))));
     }
     return true;
 }
@@ -58,13 +59,18 @@ public:
 
 private:
     void flush() {
-        std::string record = hexDigits(fill_, 2) + hexDigits(start_ & 0xFFFF, 4) + "00";
+        text_ += ':';
+        appendHex2(text_, fill_);
+        appendHex2(text_, start_ >> 8);
+        appendHex2(text_, start_);
+        text_ += "00";
         int sum = fill_ + ((start_ >> 8) & 0xFF) + (start_ & 0xFF);
         for (int i = 0; i < fill_; ++i) {
-            record += hexDigits(buffer_[static_cast<std::size_t>(i)], 2);
+            appendHex2(text_, buffer_[static_cast<std::size_t>(i)]);
             sum += buffer_[static_cast<std::size_t>(i)];
         }
-        text_ += ":" + record + hexDigits(256 - sum % 256, 2) + "\r\n";
+        appendHex2(text_, 256 - sum % 256);
+        text_ += "\r\n";
         fill_ = 0;
     }
 

@@ -1,6 +1,7 @@
 // The run: reset, first pass over the source and its includes, second pass
 // over the rows marked for retry, then report and outputs.
 
+#include <charconv>
 #include <utility>
 
 #include "assembler/assembler.h"
@@ -77,7 +78,10 @@ void Assembler::resetRun() {
     state_.exitForPatches.clear();
     state_.exitLoopPatches.clear();
     state_.reportText.clear();
-    files_.emplace(1, SourceFile::open(settings_.temporaryFolder + "TmpFile.tmp"));
+    const auto& main = files_.emplace(1, SourceFile::open(settings_.temporaryFolder + "TmpFile.tmp"))
+                           .first->second;
+    state_.sourceTable.reserve(main.lineEstimate());
+    state_.codeText.reserve(main.lineEstimate());
 }
 
 void Assembler::letEventsRun() { host_.processPendingEvents(); }
@@ -170,15 +174,20 @@ void Assembler::setCodeText(const std::string& text) {
 
 std::string Assembler::positionText() const {
     const int file = state_.currentFile;
-    return std::to_string(file) + ":" +
-           std::to_string(state_.lineCounters.at(static_cast<std::size_t>(file)).value());
+    char buffer[16];
+    char* end = std::to_chars(buffer, buffer + sizeof buffer, file).ptr;
+    *end++ = ':';
+    end = std::to_chars(end, buffer + sizeof buffer,
+                        state_.lineCounters.at(static_cast<std::size_t>(file)).value())
+              .ptr;
+    return std::string(buffer, end);
 }
 
 void Assembler::recordError() {
     growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
     const int number = state_.errorNumber;
-    if (catalogueEntry(number).kind == FindingKind::Retried) row.retryMark = "?";
+    if (findingKind(number) == FindingKind::Retried) row.retryMark = "?";
     row.marker = catalogueMarker(number);
     state_.errorNumber = 0;
 }

@@ -2,6 +2,8 @@
 // order of the chain is part of the behaviour; every statement that reaches
 // its end gets the listing tail, error or not, so it keeps its place.
 
+#include <unordered_map>
+
 #include "assembler/assembler.h"
 #include "base/cp1252.h"
 #include "base/text.h"
@@ -9,11 +11,40 @@
 namespace korvex {
 namespace {
 
-bool isOneOf(const std::string& word, std::initializer_list<const char*> words) {
-    for (const char* w : words) {
-        if (word == w) return true;
-    }
-    return false;
+// The words the chain compares; each leads to one family. The words are all
+// different, so a lookup serves the chain's exact comparisons in its order.
+enum class Family {
+    None, Arithmetic, IncDec, MulDiv, AccumulatorOrBit, Logic, PushPop, Xchd, MovxMovc, Mov,
+    ReturnOrNop, ConditionalJump, BitJump, Djnz, Cjne, LongJumpOrCall, AbsoluteJumpOrCall, Table,
+    Org, If, Else, ElseIf, EndOrUntil, Loop, Exit, For, Next, Cpu, Hash
+};
+
+Family familyOf(const std::string& mnemonic) {
+    static const std::unordered_map<std::string_view, Family> kFamilies = {
+        {"ADD", Family::Arithmetic}, {"ADDC", Family::Arithmetic}, {"SUBB", Family::Arithmetic},
+        {"XCH", Family::Arithmetic}, {"INC", Family::IncDec}, {"DEC", Family::IncDec},
+        {"MUL", Family::MulDiv}, {"DIV", Family::MulDiv}, {"DA", Family::AccumulatorOrBit},
+        {"CLR", Family::AccumulatorOrBit}, {"CPL", Family::AccumulatorOrBit},
+        {"RL", Family::AccumulatorOrBit}, {"RLC", Family::AccumulatorOrBit},
+        {"RR", Family::AccumulatorOrBit}, {"RRC", Family::AccumulatorOrBit},
+        {"SWAP", Family::AccumulatorOrBit}, {"SETB", Family::AccumulatorOrBit},
+        {"ANL", Family::Logic}, {"ORL", Family::Logic}, {"XRL", Family::Logic},
+        {"PUSH", Family::PushPop}, {"POP", Family::PushPop}, {"XCHD", Family::Xchd},
+        {"MOVX", Family::MovxMovc}, {"MOVC", Family::MovxMovc}, {"MOV", Family::Mov},
+        {"RET", Family::ReturnOrNop}, {"RETI", Family::ReturnOrNop}, {"NOP", Family::ReturnOrNop},
+        {"JC", Family::ConditionalJump}, {"JNC", Family::ConditionalJump},
+        {"JZ", Family::ConditionalJump}, {"JNZ", Family::ConditionalJump},
+        {"SJMP", Family::ConditionalJump}, {"JB", Family::BitJump}, {"JNB", Family::BitJump},
+        {"JBC", Family::BitJump}, {"DJNZ", Family::Djnz}, {"CJNE", Family::Cjne},
+        {"LCALL", Family::LongJumpOrCall}, {"LJMP", Family::LongJumpOrCall},
+        {"JMP", Family::LongJumpOrCall}, {"CALL", Family::LongJumpOrCall},
+        {"ACALL", Family::AbsoluteJumpOrCall}, {"AJMP", Family::AbsoluteJumpOrCall},
+        {"DB", Family::Table}, {"DW", Family::Table}, {"ORG", Family::Org}, {"IF", Family::If},
+        {"ELSE", Family::Else}, {"ELSEIF", Family::ElseIf}, {"END", Family::EndOrUntil},
+        {"UNTIL", Family::EndOrUntil}, {"LOOP", Family::Loop}, {"EXIT", Family::Exit},
+        {"FOR", Family::For}, {"NEXT", Family::Next}, {"CPU", Family::Cpu}, {"#", Family::Hash}};
+    const auto hit = kFamilies.find(mnemonic);
+    return hit == kFamilies.end() ? Family::None : hit->second;
 }
 
 }  // namespace
@@ -31,87 +62,88 @@ void Assembler::encodeInstruction() {
     state_.instructionLength = 1;
 
     const std::string mnemonic = t[0];
-    if (isOneOf(mnemonic, {"ADD", "ADDC", "SUBB", "XCH"})) {
-        encodeArithmetic();
-    } else if (isOneOf(mnemonic, {"INC", "DEC"})) {
-        encodeIncDec();
-    } else if (isOneOf(mnemonic, {"MUL", "DIV"})) {
-        encodeMulDiv();
-    } else if (isOneOf(mnemonic, {"DA", "CLR", "CPL", "RL", "RLC", "RR", "RRC", "SWAP", "SETB"})) {
-        encodeAccumulatorOrBit();
-    } else if (isOneOf(mnemonic, {"ANL", "ORL", "XRL"})) {
-        encodeLogic();
-    } else if (isOneOf(mnemonic, {"PUSH", "POP"})) {
-        encodePushPop();
-    } else if (mnemonic == "XCHD") {
-        encodeXchd();
-    } else if (mnemonic == "MOVX" || mnemonic == "MOVC") {
-        encodeMovxMovc();
-    } else if (mnemonic == "MOV") {
-        encodeMov();
-    } else if (isOneOf(mnemonic, {"RET", "RETI", "NOP"})) {
-        encodeReturnOrNop();
-    } else if (isOneOf(mnemonic, {"JC", "JNC", "JZ", "JNZ", "SJMP"})) {
-        encodeConditionalJump();
-    } else if (isOneOf(mnemonic, {"JB", "JNB", "JBC"})) {
-        encodeBitJump();
-    } else if (mnemonic == "DJNZ") {
-        encodeDjnz();
-    } else if (mnemonic == "CJNE") {
-        encodeCjne();
-    } else if (isOneOf(mnemonic, {"LCALL", "LJMP", "JMP", "CALL"})) {
-        encodeLongJumpOrCall();
-    } else if (mnemonic == "ACALL" || mnemonic == "AJMP") {
-        encodeAbsoluteJumpOrCall();
-    } else if (mnemonic == "DB" || mnemonic == "DW") {
-        // Tables write their own code text and move the counter themselves.
-        compileTable();
-        if (state_.errorNumber != 0) recordError();
-        return;
-    } else if (mnemonic == "ORG") {
-        if (encodeOrg()) return;
-    } else if (mnemonic == "IF") {
-        if (!compileIf()) return;
-    } else if (mnemonic == "ELSE") {
-        if (!t[1].empty()) {
-            state_.errorNumber = 1;
-        } else if (!compileElse()) {
+    switch (familyOf(mnemonic)) {
+        case Family::Arithmetic: encodeArithmetic(); break;
+        case Family::IncDec: encodeIncDec(); break;
+        case Family::MulDiv: encodeMulDiv(); break;
+        case Family::AccumulatorOrBit: encodeAccumulatorOrBit(); break;
+        case Family::Logic: encodeLogic(); break;
+        case Family::PushPop: encodePushPop(); break;
+        case Family::Xchd: encodeXchd(); break;
+        case Family::MovxMovc: encodeMovxMovc(); break;
+        case Family::Mov: encodeMov(); break;
+        case Family::ReturnOrNop: encodeReturnOrNop(); break;
+        case Family::ConditionalJump: encodeConditionalJump(); break;
+        case Family::BitJump: encodeBitJump(); break;
+        case Family::Djnz: encodeDjnz(); break;
+        case Family::Cjne: encodeCjne(); break;
+        case Family::LongJumpOrCall: encodeLongJumpOrCall(); break;
+        case Family::AbsoluteJumpOrCall: encodeAbsoluteJumpOrCall(); break;
+        case Family::Table:
+            // Tables write their own code text and move the counter themselves.
+            compileTable();
+            if (state_.errorNumber != 0) recordError();
             return;
-        }
-    } else if (mnemonic == "ELSEIF") {
-        if (!compileElseIf()) return;
-    } else if ((mnemonic == "END" || mnemonic == "UNTIL") && t[1] == "IF") {
-        compileEndIf();
-        return;
-    } else if ((mnemonic == "END" && t[1] == "LOOP") || mnemonic == "UNTIL") {
-        if (!compileLoopEnd()) return;
-    } else if (mnemonic == "END") {
-        encodeEnd();
-    } else if (mnemonic == "LOOP") {
-        if (!compileLoop()) return;
-    } else if (mnemonic == "EXIT") {
-        if (!compileExit()) return;
-    } else if (mnemonic == "FOR") {
-        if (!t[2].empty()) {
-            state_.errorNumber = 32;
-        } else if (!compileFor()) {
+        case Family::Org:
+            if (encodeOrg()) return;
+            break;
+        case Family::If:
+            if (!compileIf()) return;
+            break;
+        case Family::Else:
+            if (!t[1].empty()) {
+                state_.errorNumber = 1;
+            } else if (!compileElse()) {
+                return;
+            }
+            break;
+        case Family::ElseIf:
+            if (!compileElseIf()) return;
+            break;
+        case Family::EndOrUntil:
+            // UNTIL IF acts as END IF: the test for IF is made for both words.
+            if (t[1] == "IF") {
+                compileEndIf();
+                return;
+            }
+            if (mnemonic == "UNTIL" || t[1] == "LOOP") {
+                if (!compileLoopEnd()) return;
+            } else {
+                encodeEnd();
+            }
+            break;
+        case Family::Loop:
+            if (!compileLoop()) return;
+            break;
+        case Family::Exit:
+            if (!compileExit()) return;
+            break;
+        case Family::For:
+            if (!t[2].empty()) {
+                state_.errorNumber = 32;
+            } else if (!compileFor()) {
+                return;
+            }
+            break;
+        case Family::Next:
+            if (!compileNext()) return;
+            break;
+        case Family::Cpu:
+            readCpuDriver(t[0], t[1]);
+            setCodeText(std::string(kFourTabs));
             return;
-        }
-    } else if (mnemonic == "NEXT") {
-        if (!compileNext()) return;
-    } else if (mnemonic == "CPU") {
-        readCpuDriver(t[0], t[1]);
-        setCodeText(std::string(kFourTabs));
-        return;
-    } else if (mnemonic == "#") {
-        state_.errorNumber = 29;  // the line had a blank behind "#"
-    } else if (startsWith(mnemonic, "CPU=")) {
-        readCpuDriver(t[0], "");
-        setCodeText(std::string(kFourTabs));
-        return;
-    } else {
-        if (encodeAssignment()) return;
-        encodeImplicitCall();
+        case Family::Hash:
+            state_.errorNumber = 29;  // the line had a blank behind "#"
+            break;
+        case Family::None:
+            if (startsWith(mnemonic, "CPU=")) {
+                readCpuDriver(t[0], "");
+                setCodeText(std::string(kFourTabs));
+                return;
+            }
+            if (encodeAssignment()) return;
+            encodeImplicitCall();
+            break;
     }
     writeListingTail();
 }
@@ -119,12 +151,17 @@ void Assembler::encodeInstruction() {
 void Assembler::writeListingTail() {
     if (state_.errorNumber != 0) recordError();
     const int length = state_.instructionLength;
-    std::string text = hexDigits(state_.codeAddress, 4) + "\t";
+    growRowsTo(state_.currentRow);
+    std::string& text = state_.codeText[static_cast<std::size_t>(state_.currentRow)];
+    text.clear();
+    appendHex2(text, state_.codeAddress >> 8);
+    appendHex2(text, state_.codeAddress);
+    text += '\t';
     for (int i = 0; i < length; ++i) {
-        text += hexDigits(state_.instructionBytes[static_cast<std::size_t>(i)], 2) + "\t";
+        appendHex2(text, state_.instructionBytes[static_cast<std::size_t>(i)]);
+        text += '\t';
     }
     text.append(static_cast<std::size_t>(std::max(0, 3 - length)), '\t');
-    setCodeText(text);
     state_.codeAddress = checkedAdd(state_.codeAddress, length);
 }
 

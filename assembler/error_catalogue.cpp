@@ -57,18 +57,47 @@ constexpr std::array<Entry, 41> kCatalogue = {{
     {"Division mit null", true},
 }};
 
+// The words in the system's code page, converted once.
+const std::array<CatalogueEntry, kCatalogue.size()>& convertedCatalogue() {
+    static const auto converted = [] {
+        std::array<CatalogueEntry, kCatalogue.size()> table;
+        for (std::size_t i = 0; i < kCatalogue.size(); ++i) {
+            table[i] = {text8(kCatalogue[i].words),
+                        kCatalogue[i].final ? FindingKind::Final : FindingKind::Retried};
+        }
+        return table;
+    }();
+    return converted;
+}
+
+const std::array<std::string, kCatalogue.size()>& convertedMarkers() {
+    static const auto markers = [] {
+        std::array<std::string, kCatalogue.size()> table;
+        for (std::size_t i = 0; i < kCatalogue.size(); ++i) {
+            table[i] = ";>err" + std::to_string(i) + ": " + convertedCatalogue()[i].words;
+        }
+        return table;
+    }();
+    return markers;
+}
+
+bool inCatalogue(int number) { return number >= 1 && number < static_cast<int>(kCatalogue.size()); }
+
 }  // namespace
 
 CatalogueEntry catalogueEntry(int number) {
-    if (number < 1 || number >= static_cast<int>(kCatalogue.size())) {
-        return {std::string(), FindingKind::Retried};
-    }
-    const Entry& entry = kCatalogue[static_cast<std::size_t>(number)];
-    return {text8(entry.words), entry.final ? FindingKind::Final : FindingKind::Retried};
+    if (!inCatalogue(number)) return {std::string(), FindingKind::Retried};
+    return convertedCatalogue()[static_cast<std::size_t>(number)];
+}
+
+FindingKind findingKind(int number) {
+    return inCatalogue(number) ? convertedCatalogue()[static_cast<std::size_t>(number)].kind
+                               : FindingKind::Retried;
 }
 
 std::string catalogueMarker(int number) {
-    return ";>err" + std::to_string(number) + ": " + catalogueEntry(number).words;
+    if (!inCatalogue(number)) return ";>err" + std::to_string(number) + ": ";
+    return convertedMarkers()[static_cast<std::size_t>(number)];
 }
 
 }  // namespace korvex

@@ -16,6 +16,8 @@ struct CatalogueEntry {
 // A number outside the catalogue has empty words and counts as retried.
 CatalogueEntry catalogueEntry(int number);
 
+FindingKind findingKind(int number);
+
 // ";>err" + number + ": " + words, the form recordError writes.
 std::string catalogueMarker(int number);
 

@@ -16,8 +16,9 @@ SourceFile SourceFile::fromText(std::string text) { return SourceFile(std::move(
 
 std::string SourceFile::readLine() {
     if (atEnd()) raise(FailureNumber::ReadPastEnd);
-    const std::size_t end = bytes_.find_first_of("\r\n", position_);
-    if (end == std::string::npos) {
+    std::size_t end = position_;
+    while (end < bytes_.size() && bytes_[end] != '\r' && bytes_[end] != '\n') ++end;
+    if (end == bytes_.size()) {
         std::string line = bytes_.substr(position_);
         position_ = bytes_.size();
         return line;
@@ -30,6 +31,11 @@ std::string SourceFile::readLine() {
     return line;
 }
 
+std::size_t SourceFile::lineEstimate() const {
+    // Source lines are rarely shorter than eight bytes.
+    return bytes_.size() / 8 + 16;
+}
+
 bool fileExists(const std::string& path) {
     std::error_code ec;
     return !path.empty() && std::filesystem::is_regular_file(path, ec);
@@ -38,9 +44,15 @@ bool fileExists(const std::string& path) {
 std::string readWholeFile(const std::string& path) {
     std::error_code ec;
     if (path.empty() || std::filesystem::is_directory(path, ec)) raise(FailureNumber::FileNotFound);
-    std::ifstream in(path, std::ios::binary);
+    std::ifstream in(path, std::ios::binary | std::ios::ate);
     if (!in) raise(FailureNumber::FileNotFound);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    const std::streamoff size = in.tellg();
+    if (size < 0) raise(FailureNumber::PathFileAccess);
+    std::string bytes(static_cast<std::size_t>(size), '\0');
+    in.seekg(0);
+    in.read(bytes.data(), size);
+    if (in.gcount() != size) raise(FailureNumber::PathFileAccess);
+    return bytes;
 }
 
 void writeWholeFile(const std::string& path, const std::string& bytes) {

@@ -18,6 +18,8 @@ public:
     // Raises "Einlesen hinter Dateiende" when the file is at its end.
     std::string readLine();
     bool atEnd() const { return position_ >= bytes_.size(); }
+    // Lines to expect, for reserving room.
+    std::size_t lineEstimate() const;
 
 private:
     explicit SourceFile(std::string bytes) : bytes_(std::move(bytes)) {}

@@ -105,8 +105,13 @@ char upperChar(char c) {
 }
 
 std::string upperCase(std::string_view text) {
+    static const auto kUpper = [] {
+        std::array<char, 256> table{};
+        for (int i = 0; i < 256; ++i) table[static_cast<std::size_t>(i)] = upperChar(static_cast<char>(i));
+        return table;
+    }();
     std::string out(text);
-    for (char& c : out) c = upperChar(c);
+    for (char& c : out) c = kUpper[static_cast<unsigned char>(c)];
     return out;
 }
 

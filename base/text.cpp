@@ -8,11 +8,12 @@ bool isBlankOrTab(char c) { return c == ' ' || c == '\t'; }
 }  // namespace
 
 void cleanText(std::string& text) {
+    std::size_t last = text.size();
+    while (last > 0 && isBlankOrTab(text[last - 1])) --last;
+    text.erase(last);
     std::size_t first = 0;
     while (first < text.size() && isBlankOrTab(text[first])) ++first;
-    std::size_t last = text.size();
-    while (last > first && isBlankOrTab(text[last - 1])) --last;
-    text = text.substr(first, last - first);
+    text.erase(0, first);
 }
 
 std::string cleaned(std::string_view text) {
@@ -59,8 +60,28 @@ std::string replaceAll(std::string_view text, std::string_view what, std::string
     return out;
 }
 
+namespace {
+constexpr char kHexDigits[] = "0123456789ABCDEF";
+}  // namespace
+
+void appendHex2(std::string& out, std::int64_t value) {
+    out += kHexDigits[(value >> 4) & 0xF];
+    out += kHexDigits[value & 0xF];
+}
+
 std::string hexDigits(std::int64_t value, int width) {
-    static constexpr char kDigits[] = "0123456789ABCDEF";
+    static constexpr const char* kDigits = kHexDigits;
+    if (width == 2) {
+        std::string out;
+        appendHex2(out, value);
+        return out;
+    }
+    if (width == 4) {
+        std::string out;
+        appendHex2(out, value >> 8);
+        appendHex2(out, value);
+        return out;
+    }
     auto bits = static_cast<std::uint32_t>(value);
     std::string out;
     do {
@@ -91,19 +112,18 @@ std::int64_t parseDecimal(std::string_view text, std::int64_t fallback) {
     return value;
 }
 
+int hexDigitValue(char c) {
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    return -1;
+}
+
 std::int64_t parseHexPrefix(std::string_view text) {
     std::int64_t value = 0;
     for (char c : text) {
-        int digit = 0;
-        if (c >= '0' && c <= '9') {
-            digit = c - '0';
-        } else if (c >= 'A' && c <= 'F') {
-            digit = c - 'A' + 10;
-        } else if (c >= 'a' && c <= 'f') {
-            digit = c - 'a' + 10;
-        } else {
-            break;
-        }
+        const int digit = hexDigitValue(c);
+        if (digit < 0) break;
         value = (value << 4 | digit) & 0xFFFFFFFFFFFFLL;
     }
     return value;

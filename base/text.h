@@ -26,6 +26,12 @@ std::string replaceAll(std::string_view text, std::string_view what, std::string
 // and cut to the last `width` digits when `width` is not 0.
 std::string hexDigits(std::int64_t value, int width = 0);
 
+// Appends the two hexadecimal digits of the low byte.
+void appendHex2(std::string& out, std::int64_t value);
+
+// Value of one hexadecimal digit, either case, or -1.
+int hexDigitValue(char c);
+
 // Decimal text; `signPlace` puts a blank before a value that is not negative.
 std::string decimalText(std::int64_t value, bool signPlace = false);
 
