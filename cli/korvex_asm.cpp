@@ -13,6 +13,7 @@
 #include "base/text.h"
 #include "cli/cli_host.h"
 #include "cli/terminal_text.h"
+#include "workbench/settings_file.h"
 
 namespace {
 
@@ -39,7 +40,9 @@ constexpr const char* kHelp =
     "  --all                    alle vier Dateien schreiben\n"
     "  --help                   diese Hilfe zeigen\n"
     "\n"
-    "Ohne Angabe werden HEX-Datei und Listing geschrieben.\n"
+    "Ohne Angabe werden HEX-Datei und Listing geschrieben. Die Dateiendungen\n"
+    "stammen aus korvex.cfg im Programmordner; fehlt die Datei oder ist sie\n"
+    "fehlerhaft, gelten die oben genannten.\n"
     "\n"
     "Rückgabewerte: 0 fehlerfrei, 1 Bericht mit „Warnungen/Fehler:“,\n"
     "2 Laufzeitfehler (keine Ausgabedateien), 64 falscher Aufruf.\n";
@@ -116,6 +119,13 @@ int main(int argc, char** argv) {
     AssemblerSettings settings;
     settings.programFolder =
         resolveProgramFolder(processProgramFolderSources(options.programFolder));
+    // The extensions chosen in the workbench. A command-line tool asks no
+    // question: a missing or broken korvex.cfg leaves the default extensions.
+    const Settings configured = readSettingsFile(settings.programFolder).settings;
+    settings.listingExtension = configured.listingExtension;
+    settings.binaryExtension = configured.binaryExtension;
+    settings.hexExtension = configured.hexExtension;
+    settings.symbolExtension = configured.symbolExtension;
     settings.temporaryFolder = makePrivateTemporaryFolder();
     settings.sourceFolder =
         withTrailingSlash(std::filesystem::path(compiled->name).parent_path().string());

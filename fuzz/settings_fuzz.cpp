@@ -18,8 +18,8 @@ bool holdsQuote(const korvex::Settings& s) {
     for (const std::string* text :
          {&s.sourceExtension, &s.listingExtension, &s.binaryExtension, &s.hexExtension,
           &s.disassemblyExtension, &s.symbolExtension, &s.ControllerName, &s.EditorFontName,
-          &s.sourceFolder, &s.listingFolder, &s.binaryFolder, &s.hexFolder,
-          &s.disassemblyFolder, &s.symbolFolder}) {
+          &s.sourceFolder, &s.listingFolder, &s.binaryFolder, &s.hexFolder, &s.disassemblyFolder,
+          &s.symbolFolder}) {
         if (text->find('"') != std::string::npos) return true;
     }
     return false;
