@@ -26,7 +26,7 @@ constexpr std::array kSizes{4000, 8000, 16000, 32000};
 // A private folder holding the source of one size, and an assembler over it.
 class SourceRun {
 public:
-    explicit SourceRun(int lines) {
+    SourceRun(int lines, bool structured) {
         folder_ = (std::filesystem::temp_directory_path() / "korvex-bench-XXXXXX").string();
         if (mkdtemp(folder_.data()) == nullptr) std::abort();
         folder_ += '/';
@@ -34,7 +34,8 @@ public:
         settings.programFolder = KORVEX_DRIVER_FOLDER;
         settings.temporaryFolder = settings.sourceFolder = folder_;
         assembler_.emplace(host_, settings);
-        writeWholeFile(folder_ + "TmpFile.tmp", bench::generateSource(lines));
+        writeWholeFile(folder_ + "TmpFile.tmp", structured ? bench::generateStructuredSource(lines)
+                                                          : bench::generateSource(lines));
     }
     ~SourceRun() {
         std::error_code ec;
@@ -60,7 +61,7 @@ private:
 };
 
 void BM_AssembleSource(benchmark::State& state) {
-    SourceRun run(static_cast<int>(state.range(0)));
+    SourceRun run(static_cast<int>(state.range(0)), false);
     for (auto _ : state) benchmark::DoNotOptimize(run.assemble());
     state.SetComplexityN(state.range(0));
     state.counters["Zeilen/s"] = benchmark::Counter(static_cast<double>(state.range(0)),
@@ -68,6 +69,22 @@ void BM_AssembleSource(benchmark::State& state) {
 }
 
 BENCHMARK(BM_AssembleSource)
+    ->Apply([](benchmark::internal::Benchmark* b) {
+        for (int lines : kSizes) b->Arg(lines);
+    })
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMillisecond);
+
+// The same sizes in the whole language: structures, macros, tables, variables.
+void BM_AssembleStructuredSource(benchmark::State& state) {
+    SourceRun run(static_cast<int>(state.range(0)), true);
+    for (auto _ : state) benchmark::DoNotOptimize(run.assemble());
+    state.SetComplexityN(state.range(0));
+    state.counters["Zeilen/s"] = benchmark::Counter(static_cast<double>(state.range(0)),
+                                                    benchmark::Counter::kIsIterationInvariantRate);
+}
+
+BENCHMARK(BM_AssembleStructuredSource)
     ->Apply([](benchmark::internal::Benchmark* b) {
         for (int lines : kSizes) b->Arg(lines);
     })
@@ -87,12 +104,15 @@ int main(int argc, char** argv) {
         return 0;
     }
     // A source with findings would measure the error path, not the assembler.
-    for (int lines : kSizes) {
-        SourceRun run(lines);
-        const std::string problem = run.problem(run.assemble());
-        if (!problem.empty()) {
-            std::cerr << "Quelltext mit " << lines << " Zeilen nicht fehlerfrei:\n" << problem << '\n';
-            return 1;
+    for (bool structured : {false, true}) {
+        for (int lines : kSizes) {
+            SourceRun run(lines, structured);
+            const std::string problem = run.problem(run.assemble());
+            if (!problem.empty()) {
+                std::cerr << "Quelltext mit " << lines << " Zeilen nicht fehlerfrei:\n"
+                          << problem << '\n';
+                return 1;
+            }
         }
     }
     benchmark::Initialize(&argc, argv);

@@ -5,6 +5,7 @@
 // further down, so the second pass has work. The syntax is the common ground
 // with as31: commented out, the driver line is all that as31 has to skip.
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -78,6 +79,57 @@ inline std::string generateSource(int lineCount) {
             default: s = "djnz " + d + "," + nearTarget; break;
         }
         text += "\t" + s + "\r\n";
+    }
+    return text;
+}
+
+// A source of the whole language: variables, macros, IF, FOR and LOOP
+// structures, tables and calls without mnemonic, in blocks of 24 lines. Each
+// block calls the next one, the last calls the first, so every label is used
+// and the calls are forward references for the second pass.
+inline std::string generateStructuredSource(int lineCount) {
+    constexpr int kBlock = 24;
+    const int blocks = std::max(1, (lineCount - 9) / kBlock);
+    std::string text =
+        "#cpu 8051\r\n"
+        "#use LCALL\r\n"
+        "#byte Zaehler, Summe\r\n"
+        "#bit Merker\r\n"
+        "#word Zeiger\r\n"
+        "#const Grenze=100\r\n"
+        "#def Twice {INC R2 : INC R2}\r\n"
+        "#def Load(reg,val) {mov (reg),#(val)}\r\n"
+        "        MOV Zeiger,#Grenze\r\n";
+    text.reserve(static_cast<std::size_t>(lineCount) * 20);
+    for (int block = 0; block < blocks; ++block) {
+        const std::string v = std::to_string(block % 200 + 1);
+        const std::string k = std::to_string(block % 7 + 2);
+        const std::string me = "Teil" + std::to_string(block);
+        const std::string next = "Teil" + std::to_string(block + 1 < blocks ? block + 1 : 0);
+        text += me + ":\r\n";
+        text += "        Twice\r\n";
+        text += "        Load(R3," + v + ")\r\n";
+        text += "        Summe = A\r\n";
+        text += "        IF A=#0 THEN\r\n";
+        text += "            MOV A,Summe\r\n";
+        text += "        ELSEIF R0=#" + v + " THEN\r\n";
+        text += "            ADD A,R3\r\n";
+        text += "        ELSE\r\n";
+        text += "            SETB Merker\r\n";
+        text += "        END IF\r\n";
+        text += "        FOR R7=#" + k + "\r\n";
+        text += "            ADD A,Zaehler : MOV Zaehler,A\r\n";
+        text += "            IF BIT Merker THENEXITFOR\r\n";
+        text += "        NEXT\r\n";
+        text += "        LOOP WHILE A>#0\r\n";
+        text += "            DEC A\r\n";
+        text += "        END LOOP\r\n";
+        text += "        LOOP\r\n";
+        text += "            INC R1\r\n";
+        text += "        UNTIL R1=#" + v + "\r\n";
+        text += "        DB 'K', HIGH(" + me + ")\r\n";
+        text += "        DW " + me + ", " + v + "*3\r\n";
+        text += "        " + next + "\r\n";
     }
     return text;
 }
