@@ -174,6 +174,7 @@ private:
     void genericError();
     void storeByte(int index, std::int64_t value);
     void storeLongTarget(std::int32_t target);
+    bool storeCompareOpcode(std::int16_t leftClass, std::int32_t left, std::int16_t rightClass);
     bool sameBlock(std::int32_t from, std::int32_t target) const;
 
     static constexpr int kDeepestExpression = 1000;

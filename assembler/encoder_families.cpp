@@ -462,6 +462,12 @@ void Assembler::encodeCjne() {
     classifyOperand(t[2], rightClass, right);
     maskByte(right, state_.errorNumber, rightClass == ClassImmediate ? 13 : 4);
     storeByte(1, right);
+    if (!storeCompareOpcode(leftClass, left, rightClass)) genericError();
+}
+
+bool Assembler::storeCompareOpcode(std::int16_t leftClass, std::int32_t left,
+                                   std::int16_t rightClass) {
+    // The four CJNE forms: A with direct or immediate, Rn or @Ri with immediate.
     if (leftClass == ClassAccumulator && rightClass == ClassDirect) {
         storeByte(0, 0xB5);
     } else if (leftClass == ClassAccumulator && rightClass == ClassImmediate) {
@@ -471,8 +477,9 @@ void Assembler::encodeCjne() {
     } else if (leftClass == ClassIndirect && rightClass == ClassImmediate) {
         storeByte(0, 0xB6 + left);
     } else {
-        genericError();
+        return false;
     }
+    return true;
 }
 
 void Assembler::encodeLongJumpOrCall() {

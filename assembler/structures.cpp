@@ -144,17 +144,7 @@ void Assembler::compileCondition(std::string text) {
     }
     state_.instructionLength = 3;
     storeByte(1, rightValue);
-    if (leftClass == ClassAccumulator && rightClass == ClassDirect) {
-        storeByte(0, 0xB5);
-    } else if (leftClass == ClassAccumulator && rightClass == ClassImmediate) {
-        storeByte(0, 0xB4);
-    } else if (leftClass == ClassRegister && rightClass == ClassImmediate) {
-        storeByte(0, 0xB8 + leftValue);
-    } else if (leftClass == ClassIndirect && rightClass == ClassImmediate) {
-        storeByte(0, 0xB6 + leftValue);
-    } else {
-        state_.errorNumber = 1;
-    }
+    if (!storeCompareOpcode(leftClass, leftValue, rightClass)) state_.errorNumber = 1;
     if (state_.secondPass) {
         // The retried row reads its offset back as decimal text: "1C" comes back as 1.
         const std::string& code = state_.codeText.at(static_cast<std::size_t>(state_.currentRow));
