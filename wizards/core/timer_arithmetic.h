@@ -1,0 +1,45 @@
+#pragma once
+// The numbers the wizards compute from the clock: overflow frequencies and
+// periods, reload values from a wanted frequency, baud rates. Single
+// precision where the results are shown, double where an expression is
+// double; rounding to integers goes half to even. The machine-cycle divider
+// is a parameter, as one chip of the family runs a cycle per clock.
+
+#include <cstdint>
+
+namespace korvex::wizards {
+
+inline constexpr int kClassicCycleDivider = 12;
+
+// fosc in Hz from the clock field's value in MHz.
+float oscillatorHz(float megahertz);
+
+struct OverflowRate {
+    float frequency = 0;  // Hz
+    float periodMs = 0;   // 1000 / frequency, a single division
+};
+
+// m / divisor, with m = fosc / cycleDivider. A divisor of 0 is the failure
+// "Division durch Null".
+OverflowRate overflowRate(float fosc, double divisor, int cycleDivider = kClassicCycleDivider);
+
+// Divisors of Timers 0 and 1 by mode (0 to 3); `reload` is the mode-2 reload.
+double timer01Divisor(int mode, std::int32_t reload);
+
+struct BaudSetting {
+    std::int32_t reload = 0;  // r (8 bits) or R (16 bits)
+    double actual = 0;        // the baud rate that this reload gives
+};
+
+// Timer 1 in mode 2 as baud generator, `doubled` for SMOD.
+BaudSetting timer1Baud(float fosc, double baud, bool doubled);
+// Timer 2 as baud generator; a reload of 65536 fails with "Division durch Null".
+BaudSetting timer2Baud(float fosc, double baud);
+
+// "Frequenz vorgeben" of Timers 0 and 1: the 8-bit reload, q clamped to 256.
+std::int32_t timer01ReloadForFrequency(float clockMegahertz, double frequency);
+// "Frequenz vorgeben" of Timer 2: the 16-bit reload; `baudMode` divides by 32
+// instead of 12. R above 65536 is clamped to 65536.
+std::int32_t timer2ReloadForFrequency(float fosc, double frequency, bool baudMode);
+
+}  // namespace korvex::wizards

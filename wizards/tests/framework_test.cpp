@@ -1,0 +1,234 @@
+// The machinery every wizard shares: opening, the guard discipline, the
+// repairs when a field is left, the reset command, key filters on the
+// fields, the failure trap, the transfer to the editor and the colouring.
+
+#include <gtest/gtest.h>
+
+#include "base/cp1252.h"
+#include "base/failure.h"
+#include "wizards/core/comment_colouring.h"
+#include "wizards/tests/wizard_fixture.h"
+
+namespace korvex::wizards::testing {
+namespace {
+
+using Kind = ScriptedWizardHost::Kind;
+
+// Counts generations: each one asks once for the date.
+class CountingFixture : public ::testing::Test {
+  protected:
+    CountingFixture() : wizard_(host_, options()) { wizard_.openWizard(); }
+    WizardOptions options() {
+        WizardOptions o;
+        o.now = [this] {
+            ++generations_;
+            return std::string(kFixedDate);
+        };
+        return o;
+    }
+    int generations_ = 0;
+    ScriptedWizardHost host_;
+    assistent52::Assistent52 wizard_;
+};
+
+TEST_F(CountingFixture, OpeningGivesTheLoadTimeSettingsOnce) {
+    EXPECT_EQ(generations_, 1);
+    const auto& s = wizard_.settings();
+    EXPECT_EQ(wizard_.windowTitle(), "Assistent 80C52 / 80C32");
+    EXPECT_EQ(wizard_.tabNames().size(), 6u);
+    EXPECT_EQ(wizard_.selectedTab(), 0);
+    EXPECT_EQ(s.SCombo1.listIndex, 0);
+    EXPECT_EQ(s.UCombo3.listIndex, 4);
+    EXPECT_EQ(s.UCombo3.text, "2400");
+    EXPECT_FALSE(s.UCombo4.visible);
+    EXPECT_FALSE(s.UFrame1.enabled || s.UCombo1.enabled || s.UCheck3.enabled || s.UCheck4.enabled);
+    EXPECT_EQ(s.T2Combo1.listIndex, 1);
+    EXPECT_TRUE(s.T2Check1.visible);
+    EXPECT_FALSE(s.T0Check3.visible);
+    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.windowVisible());
+    EXPECT_TRUE(host_.boxes.empty());
+
+    // A second opening shows the window with the settings it has.
+    wizard_.userSets("SText5", -1, "Test");
+    wizard_.cancelWizard();
+    EXPECT_FALSE(wizard_.windowVisible());
+    const int before = generations_;
+    wizard_.openWizard();
+    EXPECT_EQ(generations_, before);
+    EXPECT_EQ(wizard_.settings().SText5.text, "Test");
+}
+
+TEST_F(CountingFixture, CompoundChangesGenerateOnceAtTheEnd) {
+    wizard_.userSets("SCheck1", -1, "1");
+    wizard_.userSets("SCombo1", -1, "2");
+    int before = generations_;
+    wizard_.userClicks("SCommand1");
+    EXPECT_EQ(generations_ - before, 1);
+    // The mirror of the run bits uses one code on both sides: the nested
+    // operation finds its own code and releases the guard, so the program is
+    // written twice.
+    wizard_.userSets("T0Combo1", -1, "3");
+    before = generations_;
+    wizard_.userSets("T0Check3", -1, "1");
+    EXPECT_EQ(generations_ - before, 2);
+    // Choosing mode 1 with Timer 1 busy changes five controls, one generation.
+    wizard_.userSets("UCheck1", -1, "1");
+    wizard_.userSets("T1Check0", -1, "1");
+    before = generations_;
+    wizard_.userSets("UOption1", -1, "1");
+    EXPECT_EQ(generations_ - before, 1);
+    EXPECT_TRUE(wizard_.generationGuard.idle());
+}
+
+TEST_F(WizardFixture, ResetTouchesOnlyStackRamLcallAndBank) {
+    apply({"SText1=20", "SText5=Anlage", "SText2=40", "SCheck1=1", "SCheck2=1", "SCombo1=3"});
+    EXPECT_TRUE(s().SText3.enabled && s().SText4.enabled);
+    click("SCommand1");
+    EXPECT_EQ(s().SText2.text, "08");
+    EXPECT_EQ(s().SCheck1.value, 0);
+    EXPECT_FALSE(s().SText3.enabled || s().SText4.enabled);
+    EXPECT_EQ(s().SCheck2.value, 0);
+    EXPECT_EQ(s().SCombo1.listIndex, 0);
+    EXPECT_EQ(s().SText1.text, "20");
+    EXPECT_EQ(s().SText5.text, "Anlage");
+}
+
+TEST_F(WizardFixture, RepairsWhenAFieldIsLeft) {
+    // An emptied clock keeps the old program until the field is left.
+    set("SText1", "20");
+    const std::string before = program();
+    wizard_.userSets("SText1", -1, "");
+    EXPECT_EQ(program(), before);
+    wizard_.userLeaves("SText1");
+    EXPECT_EQ(s().SText1.text, "12");
+    EXPECT_NE(program().find("; @12 MHz"), std::string::npos);
+    set("SText1", "0");
+    EXPECT_EQ(s().SText1.text, "12");
+
+    set("SCheck1", "1");
+    set("SText3", "FF");
+    EXPECT_EQ(s().SText3.text, "FE");
+    set("SText3", "00");
+    EXPECT_EQ(s().SText3.text, "01");
+    set("SText3", "10");
+    set("SText4", "00");
+    EXPECT_EQ(s().SText4.text, "11");
+    set("SText2", "");
+    EXPECT_EQ(s().SText2.text, "0");
+    set("T2Check0", "1");
+    for (TextBox* box : {&s().T0Text1, &s().T0Text2, &s().T2Text3}) {
+        set(box->name, "");
+        EXPECT_EQ(box->text, "00") << box->name;
+    }
+    apply({"UCheck1=1", "UOption1=1", "UCombo3=0"});
+    EXPECT_EQ(s().UCombo3.text, "300");
+    EXPECT_EQ(s().UCombo3.listIndex, 1);
+}
+
+TEST_F(WizardFixture, ClockThatIsNoNumberShowsTheFailureBox) {
+    const std::string before = program();
+    wizard_.userSets("SText1", -1, "1x");
+    EXPECT_EQ(program(), before);
+    EXPECT_EQ(boxTexts(Kind::Failure),
+              std::vector<std::string>{"Fehler Nummer13 wurde ausgelöst von Korvex\r\n"
+                                       "Typen unverträglich: Überprüfen Sie Ihre Eingaben."});
+    EXPECT_TRUE(wizard_.generationGuard.idle());
+    // Elsewhere the generator has no trap: the failure ends that generation.
+    EXPECT_THROW(set("SCheck2", "1"), RuntimeFailure);
+    EXPECT_TRUE(wizard_.generationGuard.idle());
+}
+
+TEST_F(WizardFixture, KeysThroughTheFieldFilters) {
+    EXPECT_EQ(wizard_.userPresses("SText2", -1, 'a', 0), 0);  // "08" is full
+    EXPECT_EQ(wizard_.userPresses("SText2", -1, 'a', 2), 'A');
+    EXPECT_EQ(wizard_.userPresses("T2Text4", -1, 'x', 2), 0);
+    EXPECT_EQ(wizard_.userPresses("UCombo3", -1, '.', 0), 0);
+    EXPECT_EQ(wizard_.userPresses("SText1", -1, '.', 0), ',');
+    EXPECT_EQ(wizard_.userPresses("SText5", -1, '.', 0), '.');  // free text
+}
+
+TEST_F(WizardFixture, UserActionsOnControlsThatCannotTakeThem) {
+    EXPECT_THROW(set("Nichts", "1"), ControlUseError);
+    EXPECT_THROW(set("SCheck1", "2"), ControlUseError);
+    EXPECT_THROW(set("UCheck3", "1"), ControlUseError);     // disabled in mode 0
+    EXPECT_THROW(set("T0Text3", "x"), ControlUseError);     // an output field
+    EXPECT_THROW(set("UCombo4", "9600"), ControlUseError);  // hidden
+    EXPECT_THROW(click("T1Command1"), ControlUseError);
+    try {
+        set("Nichts", "1");
+    } catch (const ControlUseError& e) {
+        EXPECT_TRUE(e.unknown());
+    }
+}
+
+class FakeEditor : public EditorAccess {
+  public:
+    std::int16_t activeDocument() override { return active; }
+    void setSelectionStart(std::int16_t, std::int32_t position) override {
+        selectionStarts.push_back(position);
+    }
+    std::string text(std::int16_t document) override {
+        if (closed) raise(FailureNumber::IndexOutOfRange);
+        return texts.at(static_cast<std::size_t>(document));
+    }
+    void setText(std::int16_t document, const std::string& text) override {
+        texts.at(static_cast<std::size_t>(document)) = text;
+    }
+    void recolour(std::int16_t document) override { recoloured.push_back(document); }
+
+    std::int16_t active = 0;
+    bool closed = false;
+    std::vector<std::string> texts{"", "nop\r\n"};
+    std::vector<std::int32_t> selectionStarts;
+    std::vector<std::int16_t> recoloured;
+};
+
+TEST_F(WizardFixture, TransferPutsTheProgramInFrontOfTheActiveDocument) {
+    FakeEditor editor;
+    wizard_.transferToEditor(editor);  // no window: nothing at all
+    EXPECT_TRUE(wizard_.windowVisible());
+    EXPECT_TRUE(host_.boxes.empty());
+    EXPECT_EQ(editor.texts[1], "nop\r\n");
+
+    editor.active = 1;
+    wizard_.transferToEditor(editor);
+    EXPECT_FALSE(wizard_.windowVisible());
+    EXPECT_EQ(editor.texts[1], program() + "nop\r\n");
+    EXPECT_EQ(editor.selectionStarts, (std::vector<std::int32_t>{0, 0}));
+    EXPECT_EQ(editor.recoloured, std::vector<std::int16_t>{1});
+    wizard_.openWizard();
+    wizard_.transferToEditor(editor);
+    EXPECT_EQ(editor.texts[1], program() + program() + "nop\r\n");
+
+    wizard_.openWizard();
+    editor.closed = true;
+    wizard_.transferToEditor(editor);
+    EXPECT_TRUE(wizard_.windowVisible());
+    EXPECT_EQ(boxTexts(Kind::Note),
+              std::vector<std::string>{"Problem: Ich weiß nicht wohin mit den Daten. Markieren Sie "
+                                       "das Zielfenster und klicken Sie erneut auf übernehmen."});
+}
+
+TEST(CommentColouring, CommentsRunToAndWithTheLineEnd) {
+    EXPECT_TRUE(commentColouring("", 5).empty());
+    const std::string text = "mov a, b ; eins\r\nnop\r\n;zwei";
+    const auto ranges = commentColouring(text, 0x8000);
+    ASSERT_EQ(ranges.size(), 3u);
+    EXPECT_FALSE(ranges[0].comment);
+    EXPECT_EQ(ranges[0].length, text.size());
+    EXPECT_EQ(text.substr(ranges[1].start, ranges[1].length), "; eins\r\n");
+    EXPECT_EQ(ranges[1].colour, 0x8000u);
+    EXPECT_EQ(text.substr(ranges[2].start, ranges[2].length), ";zwei");
+}
+
+TEST_F(WizardFixture, PreviewIsColouredWithEachGeneration) {
+    const auto& ranges = wizard_.previewColouring();
+    ASSERT_FALSE(ranges.empty());
+    EXPECT_EQ(ranges[0].length, program().size());
+    EXPECT_EQ(program().substr(ranges[1].start, ranges[1].length),
+              std::string("; ") + kFixedDate + "\r\n");
+}
+
+}  // namespace
+}  // namespace korvex::wizards::testing

@@ -1,0 +1,82 @@
+#include "wizards/tests/wizard_fixture.h"
+
+#include "base/cp1252.h"
+#include "base/text.h"
+
+namespace korvex::wizards::testing {
+namespace {
+
+WizardOptions fixedOptions() {
+    WizardOptions options;
+    options.numberFormat.decimalMark = ',';
+    options.now = [] { return std::string(kFixedDate); };
+    return options;
+}
+
+void split(const std::string& control, std::string& name, int& index) {
+    const std::size_t open = control.find('(');
+    name = control.substr(0, open);
+    index =
+        open == std::string::npos
+            ? -1
+            : static_cast<int>(parseDecimal(control.substr(open + 1, control.size() - open - 2)));
+}
+
+}  // namespace
+
+WizardFixture::WizardFixture() : wizard_(host_, fixedOptions()) {
+    wizard_.openWizard();
+}
+
+void WizardFixture::set(const std::string& control, const std::string& value) {
+    std::string name;
+    int index = -1;
+    split(control, name, index);
+    wizard_.userSets(name, index, text8(value));
+    const auto ref = wizard_.controls().find(name, index);
+    const bool typed =
+        std::holds_alternative<TextBox*>(*ref) ||
+        (std::holds_alternative<ComboBox*>(*ref) && std::get<ComboBox*>(*ref)->editable);
+    if (typed) wizard_.userLeaves(name, index);
+}
+
+void WizardFixture::click(const std::string& control) {
+    wizard_.userClicks(control);
+}
+
+void WizardFixture::apply(const std::vector<std::string>& settings) {
+    for (const std::string& setting : settings) {
+        const std::size_t equals = setting.find('=');
+        set(setting.substr(0, equals), setting.substr(equals + 1));
+    }
+}
+
+std::vector<std::string> WizardFixture::lines() const {
+    std::vector<std::string> out;
+    const std::string& text = program();
+    std::size_t from = 0;
+    while (from < text.size()) {
+        const std::size_t end = text.find("\r\n", from);
+        out.push_back(toUtf8(text.substr(from, end - from)));
+        if (end == std::string::npos) break;
+        from = end + 2;
+    }
+    return out;
+}
+
+bool WizardFixture::hasLine(const std::string& utf8Line) const {
+    for (const auto& l : lines()) {
+        if (l == utf8Line) return true;
+    }
+    return false;
+}
+
+std::vector<std::string> WizardFixture::boxTexts(ScriptedWizardHost::Kind kind) const {
+    std::vector<std::string> out;
+    for (const auto& box : host_.boxes) {
+        if (box.kind == kind) out.push_back(toUtf8(box.text));
+    }
+    return out;
+}
+
+}  // namespace korvex::wizards::testing

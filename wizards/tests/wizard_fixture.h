@@ -1,0 +1,41 @@
+#pragma once
+// A loaded 80C52 wizard without a screen: scripted answers, a fixed date and
+// the German decimal comma. `set` acts as the user does: the control's change
+// operation, and for a typed field leaving it afterwards.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "wizards/assistent52/assistent52.h"
+#include "wizards/core/wizard_host.h"
+
+namespace korvex::wizards::testing {
+
+inline constexpr const char* kFixedDate = "23.11.2026 14:05:33";
+
+class WizardFixture : public ::testing::Test {
+  protected:
+    WizardFixture();
+
+    // "ICheck1(4)" names a member of a control array.
+    void set(const std::string& control, const std::string& value);
+    void click(const std::string& control);
+    // Settings as "FIELD=VALUE" pairs, in order.
+    void apply(const std::vector<std::string>& settings);
+
+    const std::string& program() const { return wizard_.previewText(); }
+    // The program's lines without their CR LF.
+    std::vector<std::string> lines() const;
+    bool hasLine(const std::string& utf8Line) const;
+    // Boxes of the given kind, texts only.
+    std::vector<std::string> boxTexts(ScriptedWizardHost::Kind kind) const;
+
+    assistent52::WizardSettings& s() { return wizard_.settings(); }
+
+    ScriptedWizardHost host_;
+    assistent52::Assistent52 wizard_;
+};
+
+}  // namespace korvex::wizards::testing
