@@ -10,7 +10,7 @@ namespace {
 
 // A line that keeps growing under expansion (a macro that uses itself) would
 // never end; past this length the run ends with an overflow instead.
-constexpr std::size_t kLongestExpandedLine = 1 << 16;
+constexpr std::size_t kLongestExpandedLine = 32767;
 
 bool isWordBoundary(char c) {
     return c == ' ' || c == '\t' || c == ',' || c == '+' || c == '*' || c == '-' || c == '/' ||
@@ -167,15 +167,20 @@ void Assembler::expandMacroCall(std::string& line, std::int32_t& macro) {
 void Assembler::substituteParameter(std::string& body, const std::string& parameter,
                                     const std::string& argument) {
     if (parameter.empty() || parameter == argument) return;
+    // The upper-case copy is kept in step with the body, so a long body costs
+    // one pass, not one copy per hit.
+    std::string upper = upperCase(body);
+    const std::string upperArgument = upperCase(argument);
     std::size_t from = 1;
     while (from <= body.size()) {
-        const std::size_t hit = upperCase(body).find(parameter, from);
+        const std::size_t hit = upper.find(parameter, from);
         if (hit == std::string::npos) return;
         const std::size_t after = hit + parameter.size();
         const bool counts = (body[hit - 1] == '(' || body[hit - 1] == ',') && after < body.size() &&
                             (body[after] == ',' || body[after] == ')');
         if (counts) {
             body.replace(hit, parameter.size(), argument);
+            upper.replace(hit, parameter.size(), upperArgument);
             if (body.size() > kLongestExpandedLine) raise(FailureNumber::Overflow);
         }
         from = hit + 1;
