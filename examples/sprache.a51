@@ -68,7 +68,8 @@ Start:
         MOV A,#2
         MOVC A,@A+DPTR
         MOV LOW(Messwert),A         ; LOW und HIGH wirken auf Zahlen, Label, Wörter
-        MOV Messwert+1,#HIGH(Tabelle)
+        MOV A,#HIGH(Tabelle)        ; MOV adr,#Wert mit späterem Label hiesse: Länge
+        MOV Messwert+1,A            ; erst im zweiten Lauf bekannt, darum über A
         Ausgabe                     ; Aufruf ohne Befehlswort
         MOV A,#Zeichen
         JNB Fehler,HIER+5
