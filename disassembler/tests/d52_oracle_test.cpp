@@ -121,7 +121,7 @@ class Normaliser {
 using D52Oracle = DisassemblerFixture;
 
 TEST_F(D52Oracle, EveryOpcodeReadsAlike) {
-    if (!std::filesystem::exists(kD52)) GTEST_SKIP() << "d52 is not installed";
+    if (!std::filesystem::exists(kD52)) GTEST_SKIP() << "d52 (Debian-Paket d52) fehlt";
 
     // The probe: mov a,XX and clr XX for every value teach d52's names.
     Normaliser normaliser;
