@@ -3,20 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <map>
-#include <sstream>
 
 #include "assembler/tests/assembler_fixture.h"
 #include "base/text.h"
+#include "tests/support/s51_runner.h"
 
 namespace korvex::testing {
 namespace {
-
-constexpr const char* kSimulator = "/usr/bin/s51";
 
 class SimulatorTest : public AssemblerFixture {
 protected:
@@ -30,51 +24,22 @@ protected:
         const int stop = labels.find("STOP");
         EXPECT_GE(stop, 0);
         if (stop < 0) return {};
-        std::filesystem::copy_file(folder_ + "prog.h51", folder_ + "prog.ihx");
-        std::ofstream commands(folder_ + "commands");
-        commands << "load \"" << folder_ << "prog.ihx\"\n"
-                 << "break 0x" << hexDigits(parseDecimal(labels.at(stop, 1)), 4) << "\n"
-                 << "run\n";
-        for (int address : addresses) {
-            commands << "dump iram 0x" << hexDigits(address, 2) << " 0x" << hexDigits(address, 2)
-                     << "\n";
-        }
-        commands << "quit\n";
-        commands.close();
-        const std::string command = std::string("timeout 20 ") + kSimulator + " -t 8052 -C " +
-                                    folder_ + "commands < /dev/null 2>&1";
-        std::string output;
-        FILE* pipe = popen(command.c_str(), "r");
-        std::array<char, 512> buffer{};
-        while (pipe != nullptr && fgets(buffer.data(), buffer.size(), pipe) != nullptr) {
-            output += buffer.data();
-        }
-        if (pipe != nullptr) pclose(pipe);
-
-        // Each dump echoes its command, then a line "0xNN  value ascii".
+        std::vector<std::string> cells;
+        for (int address : addresses) cells.push_back("iram:" + hexDigits(address, 2));
+        const auto values = runInSimulator(readFile("prog.h51"),
+                                           static_cast<std::int32_t>(parseDecimal(labels.at(stop, 1))),
+                                           cells);
         std::map<int, int> memory;
-        std::istringstream in(output);
-        bool afterDump = false;
-        for (std::string line; std::getline(in, line);) {
-            if (startsWith(line, "dump iram")) {
-                afterDump = true;
-            } else if (afterDump && startsWith(line, "0x")) {
-                std::istringstream fields(line);
-                std::string address;
-                std::string value;
-                fields >> address >> value;
-                memory[static_cast<int>(parseHexPrefix(address.substr(2)))] =
-                    static_cast<int>(parseHexPrefix(value));
-                afterDump = false;
-            }
+        for (const auto& [cell, value] : values) {
+            memory[static_cast<int>(parseHexPrefix(cell.substr(5)))] = value;
         }
-        EXPECT_EQ(memory.size(), addresses.size()) << output;
+        EXPECT_EQ(memory.size(), addresses.size());
         return memory;
     }
 };
 
 TEST_F(SimulatorTest, StructuredProgramComputesItsResults) {
-    if (!std::filesystem::exists(kSimulator)) GTEST_SKIP() << "s51 (Debian sdcc-ucsim) fehlt";
+    if (!simulatorAvailable()) GTEST_SKIP() << "s51 (Debian sdcc-ucsim) fehlt";
     const std::vector<std::string> program = {
         "        MOV SP,#5Fh",
         "; FOR with a register counter, IF / ELSEIF / ELSE inside",

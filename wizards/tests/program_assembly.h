@@ -1,13 +1,14 @@
 #pragma once
 // Assembles a generated program with the shipped 80C32 driver, in a private
-// folder, as the compile command would; and runs a program in Debian's 8051
-// simulator s51 to read back registers.
+// folder, as the compile command would; s51 runs come from the shared runner.
 
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "tests/support/s51_runner.h"
 
 namespace korvex::wizards::testing {
 
@@ -24,12 +25,7 @@ struct AssembledProgram {
 AssembledProgram assembleProgram(const std::string& program,
                                  const std::string& stopStatement = "END");
 
-bool simulatorAvailable();
-
-// Runs the hex image up to `stopAddress` in s51 (8052) and reads the SFRs and
-// internal RAM bytes asked for. Keys: "sfr:89", "iram:30". Missing values are
-// absent from the map.
-std::map<std::string, int> runInSimulator(const std::string& hexText, std::int32_t stopAddress,
-                                          const std::vector<std::string>& cells);
+using korvex::testing::runInSimulator;
+using korvex::testing::simulatorAvailable;
 
 }  // namespace korvex::wizards::testing
