@@ -48,7 +48,7 @@ struct OutputSwitches {
 enum class RunOutcome { Completed, Aborted, Failed };
 
 class Assembler {
-public:
+  public:
     Assembler(Host& host, AssemblerSettings settings);
 
     // Assembles `temporaryFolder` + "TmpFile.tmp", which the caller has written.
@@ -99,9 +99,8 @@ public:
     // the failure itself (tests). `assembleSource` wraps it.
     RunOutcome runUntrapped(std::string& sourceName, OutputSwitches switches);
 
-private:
-    void evaluatePart(std::string_view text, std::int32_t& value, bool& found,
-                      std::string* caller);
+  private:
+    void evaluatePart(std::string_view text, std::int32_t& value, bool& found, std::string* caller);
     void foldCharacterLiterals(std::string& text);
     void splitTokens(const std::string& text);
     void expandAllMacros(std::string& line);
@@ -115,6 +114,7 @@ private:
     bool firstPass();
     bool secondPassOver();
     void writeOutputs(std::string& sourceName, OutputSwitches switches, std::int32_t endOfCode);
+    void refuseOverwritingSource(const std::string& output, const std::string& sourceName) const;
     void letEventsRun();
 
     // Lines of the main source and of an include are read through file numbers.

@@ -9,15 +9,21 @@
 namespace korvex {
 
 std::optional<CompileSource> decideCompileSource(const std::string& caption,
-                                                 const std::string& text, Host& host) {
-    if (startsWith(caption, "Disassembling") || text.empty()) return std::nullopt;
+                                                 const std::string& text, Host& host,
+                                                 NothingToCompile* why) {
+    const auto nothing = [why](NothingToCompile reason) {
+        if (why != nullptr) *why = reason;
+        return std::nullopt;
+    };
+    if (startsWith(caption, "Disassembling")) return nothing(NothingToCompile::DisassemblyWindow);
+    if (text.empty()) return nothing(NothingToCompile::EmptyText);
     // Only the first occurrence counts, in a comment as well.
     const std::size_t found = upperCase(text).find("#PART OF ");
     if (found == std::string::npos) return CompileSource{caption, text};
 
     const std::size_t start = found + 9;
     const std::size_t lineEnd = text.find("\r\n", start);
-    if (lineEnd == std::string::npos) return std::nullopt;
+    if (lineEnd == std::string::npos) return nothing(NothingToCompile::PartOfWithoutLineEnd);
     const std::string written = trimBlanks(removeAll(text.substr(start, lineEnd - start), '\''));
 
     // A relative project name is taken from the folder of the window's file.
@@ -36,7 +42,7 @@ std::optional<CompileSource> decideCompileSource(const std::string& caption,
                     "Kann Projektdatei " + written + " nicht finden." + std::string(kCrLf) +
                         text8("Fehler ausgelöst von #Part of .."),
                     MessageButtons::Ok, MessageIcon::Exclamation);
-    return std::nullopt;
+    return nothing(NothingToCompile::ProjectNotFound);
 }
 
 }  // namespace korvex

@@ -15,11 +15,22 @@ struct CompileSource {
     std::string text;  // what the temporary file receives
 };
 
+// Why nothing is compiled. The workbench stays silent on the first three, as
+// the compile command does; a command-line tool must say why it did nothing.
+enum class NothingToCompile {
+    DisassemblyWindow,
+    EmptyText,
+    PartOfWithoutLineEnd,
+    ProjectNotFound,  // already said through the host's message box
+};
+
 // `caption` is the active window's caption (its file path), `text` its text.
 // Nothing comes back for a disassembly window, an empty text, a "#PART OF"
 // line without a line end behind it, or a project that can't be found; the
-// last of these says so through the host's message box.
+// last of these says so through the host's message box. `why` receives the
+// reason when nothing comes back.
 std::optional<CompileSource> decideCompileSource(const std::string& caption,
-                                                 const std::string& text, Host& host);
+                                                 const std::string& text, Host& host,
+                                                 NothingToCompile* why = nullptr);
 
 }  // namespace korvex

@@ -14,8 +14,12 @@ constexpr int kBitKind = 2;
 constexpr int kConstKind = 3;
 
 // A table value read the classic way: empty or broken text counts as 0.
-std::int64_t decimalCell(const std::string& text) { return parseDecimal(text, 0); }
-std::int64_t hexCell(const std::string& text) { return parseHexPrefix(text); }
+std::int64_t decimalCell(const std::string& text) {
+    return parseDecimal(text, 0);
+}
+std::int64_t hexCell(const std::string& text) {
+    return parseHexPrefix(text);
+}
 
 // Appends by the key rule: the empty row of a new table is filled first.
 template <std::size_t N>
@@ -45,8 +49,7 @@ void Assembler::setRowMarker(const std::string& marker) {
     }
 }
 
-void Assembler::addSymbol(const std::string& written, const std::string& kind,
-                          std::int64_t value) {
+void Assembler::addSymbol(const std::string& written, const std::string& kind, std::int64_t value) {
     const int row = state_.symbolList.appendByKeyRule();
     state_.symbolList.set(row, 0, written);
     state_.symbolList.set(row, 1, kind);
@@ -55,13 +58,15 @@ void Assembler::addSymbol(const std::string& written, const std::string& kind,
 
 void Assembler::declareList(std::string list, const std::string& kind) {
     try {
-        const int kindNumber = kind == "BYTE" ? kByteKind
+        const int kindNumber = kind == "BYTE"   ? kByteKind
                                : kind == "WORD" ? kWordKind
                                : kind == "BIT"  ? kBitKind
                                                 : kConstKind;
         list += ",";
-        const bool ownRow = state_.currentRow < static_cast<std::int32_t>(state_.sourceTable.size());
-        if (ownRow) state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].retryMark.clear();
+        const bool ownRow =
+            state_.currentRow < static_cast<std::int32_t>(state_.sourceTable.size());
+        if (ownRow)
+            state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].retryMark.clear();
         std::size_t start = 0;
         for (std::size_t comma = list.find(','); comma != std::string::npos;
              start = comma + 1, comma = list.find(',', start)) {
@@ -71,12 +76,9 @@ void Assembler::declareList(std::string list, const std::string& kind) {
             if (!key.empty()) declareName(key, written, kindNumber);
         }
         if (ownRow) setCodeText(std::string(kFourTabs));
-    } catch (const RuntimeFailure& failure) {
+    } catch (...) {
         host_.messageBox(text8("Fehler"),
-                         text8("Fehler Nummer") + decimalText(failure.number(), true) +
-                             text8(" wurde ausgelöst von ") + failure.source() + std::string(kCrLf) +
-                             failure.description() + std::string(kCrLf) +
-                             "Sub: assembleSource, Quelltext: " + list,
+                         failureBoxText(currentFailure(), "assembleSource, Quelltext: " + list),
                          MessageButtons::Ok, MessageIcon::Critical);
     }
 }
@@ -91,12 +93,14 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
         if (kind == kBitKind) {
             std::int16_t cls = ClassNone;
             parseBitOperand(valueText, cls, value);
-            if (cls != ClassBit) setRowMarker(text8(";>err50 ungültige Bitbezeichnung ") + valueText);
+            if (cls != ClassBit)
+                setRowMarker(text8(";>err50 ungültige Bitbezeichnung ") + valueText);
         } else {
             bool found = false;
             const std::string original = valueText;
             evaluateExpression(valueText, value, found);
-            if (!found && original.size() == 3 && original.front() == '\'' && original.back() == '\'') {
+            if (!found && original.size() == 3 && original.front() == '\'' &&
+                original.back() == '\'') {
                 value = static_cast<unsigned char>(original[1]);
                 found = true;
             }

@@ -54,10 +54,11 @@ bool Assembler::handleDirective(std::string& text) {
         } else {
             passOn = true;
         }
-    } catch (const RuntimeFailure& failure) {
+    } catch (...) {
+        const RuntimeFailure failure = currentFailure();
         host_.messageBox("Korvex",
                          "Fehler " + decimalText(failure.number(), true) + ": " +
-                             failure.description() + ".",
+                             failure.description() + "." + failureDetails(failure),
                          MessageButtons::Ok, MessageIcon::Critical);
         return true;
     }
@@ -68,7 +69,5 @@ bool Assembler::handleDirective(std::string& text) {
     }
     return passOn;
 }
-
-
 
 }  // namespace korvex

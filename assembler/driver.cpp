@@ -2,11 +2,13 @@
 // over the rows marked for retry, then report and outputs.
 
 #include <charconv>
+#include <filesystem>
 #include <utility>
 
 #include "assembler/assembler.h"
 #include "assembler/code_image.h"
 #include "assembler/error_catalogue.h"
+#include "assembler/length_check.h"
 #include "base/cp1252.h"
 #include "base/text.h"
 
@@ -25,12 +27,9 @@ int findInList(const std::string& key, const std::vector<std::string>& list) {
 RunOutcome Assembler::assembleSource(std::string& sourceName, OutputSwitches switches) {
     try {
         return runUntrapped(sourceName, switches);
-    } catch (const RuntimeFailure& failure) {
+    } catch (...) {
         // Files stay as they are until the next run closes them.
-        host_.messageBox(text8("Fehler"),
-                         text8("Fehler Nummer") + decimalText(failure.number(), true) +
-                             text8(" wurde ausgelöst von ") + failure.source() + std::string(kCrLf) +
-                             failure.description() + std::string(kCrLf) + "Sub: assembleSource",
+        host_.messageBox(text8("Fehler"), failureBoxText(currentFailure(), "assembleSource"),
                          MessageButtons::Ok, MessageIcon::Critical);
         return RunOutcome::Failed;
     }
@@ -38,6 +37,7 @@ RunOutcome Assembler::assembleSource(std::string& sourceName, OutputSwitches swi
 
 RunOutcome Assembler::runUntrapped(std::string& sourceName, OutputSwitches switches) {
     resetRun();
+    state_.sourceName = sourceName;
     if (!firstPass()) return RunOutcome::Aborted;
     const std::int32_t endOfCode = state_.codeAddress;
     if (!secondPassOver()) return RunOutcome::Aborted;
@@ -78,21 +78,34 @@ void Assembler::resetRun() {
     state_.exitForPatches.clear();
     state_.exitLoopPatches.clear();
     state_.reportText.clear();
-    const auto& main = files_.emplace(1, SourceFile::open(settings_.temporaryFolder + "TmpFile.tmp"))
-                           .first->second;
+    state_.lengthChanges.clear();
+    const auto& main =
+        files_.emplace(1, SourceFile::open(settings_.temporaryFolder + "TmpFile.tmp"))
+            .first->second;
     state_.sourceTable.reserve(main.lineEstimate());
     state_.codeText.reserve(main.lineEstimate());
 }
 
-void Assembler::letEventsRun() { host_.processPendingEvents(); }
+void Assembler::letEventsRun() {
+    host_.processPendingEvents();
+}
 
 SourceFile& Assembler::file(int number) {
     const auto hit = files_.find(number);
-    if (hit == files_.end()) raise(FailureNumber::BadFileName);
+    if (hit == files_.end()) {
+        // The one way to get here: an include that included another one.
+        RuntimeFailure failure(FailureNumber::BadFileName);
+        failure.withHint(
+            text8("Hinweis: Include-Dateien lassen sich nur eine Ebene tief "
+                  "schachteln; eine Include-Datei darf keine weitere einbinden."));
+        throw failure;
+    }
     return hit->second;
 }
 
-void Assembler::closeFile(int number) { files_.erase(number); }
+void Assembler::closeFile(int number) {
+    files_.erase(number);
+}
 
 bool Assembler::firstPass() {
     while (true) {
@@ -132,8 +145,14 @@ bool Assembler::secondPassOver() {
         state_.codeAddress = static_cast<std::int32_t>(
             parseHexPrefix(state_.codeText[static_cast<std::size_t>(row)].substr(0, 4)));
         std::string statement = state_.sourceTable[static_cast<std::size_t>(row)].statement;
+        // The rows behind keep their addresses, so a new length is noted for a warning.
+        const int firstLength = codeTextLength(state_.codeText[static_cast<std::size_t>(row)]);
         processStatement(statement);
         if (state_.errorNumber != 0) recordError();
+        const int secondLength = codeTextLength(state_.codeText[static_cast<std::size_t>(row)]);
+        if (secondLength != firstLength) {
+            state_.lengthChanges.push_back({row, firstLength, secondLength});
+        }
     }
     state_.secondPass = false;
     letEventsRun();
@@ -146,6 +165,8 @@ bool Assembler::secondPassOver() {
 
 void Assembler::writeOutputs(std::string& sourceName, OutputSwitches switches,
                              std::int32_t endOfCode) {
+    // Paths are the file system's (UTF-8); the extensions are settings text.
+    const std::string originalName = sourceName;
     // The extension is cut only when its dot stands among the last four characters.
     const std::size_t searchFrom = sourceName.size() >= 4 ? sourceName.size() - 4 : 0;
     const std::size_t dot = sourceName.find('.', searchFrom);
@@ -154,11 +175,39 @@ void Assembler::writeOutputs(std::string& sourceName, OutputSwitches switches,
     buildReport(endOfCode);
     host_.setDialogText(state_.reportText);
     const std::string base = sourceName + ".";
-    if (switches.listing) writeWholeFile(base + settings_.listingExtension, listingText());
+    // All outputs are made first and take their names together, so that a
+    // failure leaves the old set whole rather than new files beside old ones.
+    FileSetWriter outputs;
+    const auto add = [&](const std::string& extension, const std::string& bytes) {
+        const std::string path = base + toUtf8(extension);
+        refuseOverwritingSource(path, originalName);
+        outputs.add(path, bytes);
+    };
+    if (switches.listing) add(settings_.listingExtension, listingText());
     for (auto& text : state_.codeText) cleanText(text);
-    if (switches.binary) writeBinaryFile(base + settings_.binaryExtension, state_.codeText);
-    if (switches.hex) writeHexFile(base + settings_.hexExtension, state_.codeText);
-    if (switches.symbols) writeSymbolFile(base + settings_.symbolExtension, state_.symbolList);
+    if (switches.binary) add(settings_.binaryExtension, binaryImage(state_.codeText));
+    if (switches.hex) add(settings_.hexExtension, hexFileText(state_.codeText));
+    if (switches.symbols) add(settings_.symbolExtension, symbolFileText(state_.symbolList));
+    outputs.commit();
+}
+
+void Assembler::refuseOverwritingSource(const std::string& output,
+                                        const std::string& sourceName) const {
+    // The files being assembled: the source and every include it read.
+    std::vector<std::string> inputs{sourceName};
+    for (const std::string& include : state_.includeList) {
+        if (!include.empty()) inputs.push_back(toUtf8(include));
+    }
+    std::error_code ec;
+    for (const std::string& input : inputs) {
+        if (output == input || std::filesystem::equivalent(output, input, ec)) {
+            RuntimeFailure failure(FailureNumber::PathFileAccess, output);
+            failure.withHint(
+                text8("Die Ausgabedatei wäre eine der übersetzten Quelldateien; sie wird nicht "
+                      "überschrieben. Bitte die Dateiendungen in den Einstellungen prüfen."));
+            throw failure;
+        }
+    }
 }
 
 void Assembler::growRowsTo(std::int32_t row) {

@@ -42,8 +42,9 @@ std::string cleanDriverLine(std::string line) {
 
 void Assembler::readCpuDriver(const std::string& head, const std::string& tail) {
     const std::string joined = head + tail;
-    std::string name = joined.size() > 3 && joined[3] == '=' ? joined.substr(std::min<std::size_t>(4, joined.size()))
-                                                            : joined.substr(std::min<std::size_t>(3, joined.size()));
+    std::string name = joined.size() > 3 && joined[3] == '='
+                           ? joined.substr(std::min<std::size_t>(4, joined.size()))
+                           : joined.substr(std::min<std::size_t>(3, joined.size()));
     name = removeAll(name, '\'');
     std::string path = nativePath(name);
     if (name.find('\\') == std::string::npos && name.find('/') == std::string::npos) {
@@ -57,7 +58,9 @@ void Assembler::readCpuDriver(const std::string& head, const std::string& tail) 
             const std::string line = cleanDriverLine(file.readLine());
             if (line.empty()) continue;
             if (line == "VECTOR" || line == "SFR" || line == "BIT") {
-                section = line == "VECTOR" ? Section::Vector : line == "SFR" ? Section::Sfr : Section::Bit;
+                section = line == "VECTOR" ? Section::Vector
+                          : line == "SFR"  ? Section::Sfr
+                                           : Section::Bit;
                 if (section == Section::Vector) state_.vectorCount = 0;
                 if (section == Section::Sfr) state_.sfrCount = 0;
                 if (section == Section::Bit) state_.bitCount = 0;
@@ -98,11 +101,13 @@ void Assembler::readCpuDriver(const std::string& head, const std::string& tail) 
                     ++count;
                     break;
                 }
-                case Section::None: break;
+                case Section::None:
+                    break;
             }
         }
         state_.firstUserBit = state_.bitTable.lastIndex();
-    } catch (const RuntimeFailure& failure) {
+    } catch (...) {
+        const RuntimeFailure failure = currentFailure();
         host_.messageBox("Korvex",
                          "Fehler " + decimalText(failure.number(), true) + ": " +
                              failure.description() + "." + std::string(kCrLf) + path,

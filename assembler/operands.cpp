@@ -63,9 +63,12 @@ void Assembler::parseBitOperand(std::string& text, std::int16_t& operandClass,
         for (std::size_t i = 0; i < right.size() && right[i] >= '0' && right[i] <= '9'; ++i) {
             digits = std::min<std::int64_t>(digits * 10 + (right[i] - '0'), std::int64_t{1} << 40);
         }
-        const auto withBit = [digits](std::int64_t address) { return checkedInt32(address + digits); };
+        const auto withBit = [digits](std::int64_t address) {
+            return checkedInt32(address + digits);
+        };
         if (const int sfr = state_.sfrTable.find(left); sfr >= 0) {
-            const auto address = static_cast<std::int32_t>(parseHexPrefix(state_.sfrTable.at(sfr, 1)));
+            const auto address =
+                static_cast<std::int32_t>(parseHexPrefix(state_.sfrTable.at(sfr, 1)));
             if (address % 8 == 0) {
                 value = withBit(address);
                 operandClass = ClassBit;
@@ -90,13 +93,12 @@ void Assembler::parseBitOperand(std::string& text, std::int16_t& operandClass,
         operandClass = ClassBit;
         return;
     }
-    std::int32_t evaluated = kBitContext;
+    // The caller's value itself selects the bit context, so an unknown name
+    // leaves 8 there, and that is what SETB, IF BIT and #BIT store with it.
+    value = kBitContext;
     bool found = false;
-    evaluateExpression(text, evaluated, found);
-    if (found) {
-        value = evaluated;
-        operandClass = ClassBit;
-    }
+    evaluateExpression(text, value, found);
+    if (found) operandClass = ClassBit;
 }
 
 std::int32_t Assembler::relativeOffset(std::int32_t target, std::int32_t length) {

@@ -59,6 +59,14 @@ struct LoopRow {
     std::int32_t whileLength = 0;
 };
 
+// A row that the second pass encoded to another number of bytes than the
+// first: the rows behind it keep the addresses of the first pass.
+struct LengthChange {
+    std::int32_t row = 0;
+    int firstLength = 0;
+    int secondLength = 0;
+};
+
 struct RunState {
     Int16 currentFile = 1;
     std::int32_t currentRow = 0;
@@ -78,6 +86,11 @@ struct RunState {
     Int16 parentFile = 0;
     std::string includePath;
     std::string reportText;
+    // The source's path (file system, UTF-8) as the run was called with it,
+    // written by the driver at run start; messages name the main file by it.
+    std::string sourceName;
+    // Filled by the second pass, emptied at run start.
+    std::vector<LengthChange> lengthChanges;
 
     // Counts of what the last driver file brought; only the driver reader
     // writes them, and a run leaves them alone.

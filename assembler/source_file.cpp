@@ -1,18 +1,19 @@
 #include "assembler/source_file.h"
 
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "base/cp1252.h"
 #include "base/failure.h"
 
 namespace korvex {
 
-SourceFile SourceFile::open(const std::string& path) { return SourceFile(readWholeFile(path)); }
+SourceFile SourceFile::open(const std::string& path) {
+    return SourceFile(readWholeFile(path));
+}
 
-SourceFile SourceFile::fromText(std::string text) { return SourceFile(std::move(text)); }
+SourceFile SourceFile::fromText(std::string text) {
+    return SourceFile(std::move(text));
+}
 
 std::string SourceFile::readLine() {
     if (atEnd()) raise(FailureNumber::ReadPastEnd);
@@ -34,37 +35,6 @@ std::string SourceFile::readLine() {
 std::size_t SourceFile::lineEstimate() const {
     // Source lines are rarely shorter than eight bytes.
     return bytes_.size() / 8 + 16;
-}
-
-bool fileExists(const std::string& path) {
-    std::error_code ec;
-    return !path.empty() && std::filesystem::is_regular_file(path, ec);
-}
-
-std::string readWholeFile(const std::string& path) {
-    std::error_code ec;
-    if (path.empty() || std::filesystem::is_directory(path, ec)) raise(FailureNumber::FileNotFound);
-    std::ifstream in(path, std::ios::binary | std::ios::ate);
-    if (!in) raise(FailureNumber::FileNotFound);
-    const std::streamoff size = in.tellg();
-    if (size < 0) raise(FailureNumber::PathFileAccess);
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    in.seekg(0);
-    in.read(bytes.data(), size);
-    if (in.gcount() != size) raise(FailureNumber::PathFileAccess);
-    return bytes;
-}
-
-void writeWholeFile(const std::string& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    if (!out) raise(FailureNumber::PathFileAccess);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!out) raise(FailureNumber::PathFileAccess);
-}
-
-void deleteFileIfPresent(const std::string& path) {
-    std::error_code ec;
-    std::filesystem::remove(path, ec);
 }
 
 std::string nativePath(std::string_view path) {

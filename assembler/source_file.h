@@ -7,10 +7,12 @@
 #include <string>
 #include <string_view>
 
+#include "base/files.h"
+
 namespace korvex {
 
 class SourceFile {
-public:
+  public:
     // Reads the whole file; a file that can't be opened raises "Datei nicht gefunden".
     static SourceFile open(const std::string& path);
     static SourceFile fromText(std::string text);
@@ -21,18 +23,12 @@ public:
     // Lines to expect, for reserving room.
     std::size_t lineEstimate() const;
 
-private:
+  private:
     explicit SourceFile(std::string bytes) : bytes_(std::move(bytes)) {}
 
     std::string bytes_;
     std::size_t position_ = 0;
 };
-
-// Whole-file helpers for the writers and readers of the system.
-bool fileExists(const std::string& path);
-std::string readWholeFile(const std::string& path);               // raises 53 when missing
-void writeWholeFile(const std::string& path, const std::string& bytes);  // raises 75 on failure
-void deleteFileIfPresent(const std::string& path);
 
 // Paths in source text may separate with "\\" as well as "/".
 std::string nativePath(std::string_view path);

@@ -1,26 +1,44 @@
 #include "base/failure.h"
 
 #include <limits>
+#include <new>
+#include <stdexcept>
 
 #include "base/cp1252.h"
+#include "base/text.h"
 
 namespace korvex {
 
 std::string failureDescription(int number) {
     switch (number) {
-        case 5: return text8("Unzulässiger Prozeduraufruf oder ungültiges Argument");
-        case 6: return text8("Überlauf");
-        case 9: return text8("Index außerhalb des gültigen Bereichs");
-        case 11: return text8("Division durch Null");
-        case 13: return text8("Typen unverträglich");
-        case 28: return text8("Nicht genügend Stapelspeicher");
-        case 52: return text8("Dateiname oder -nummer falsch");
-        case 53: return text8("Datei nicht gefunden");
-        case 62: return text8("Einlesen hinter Dateiende");
-        case 70: return text8("Zugriff verweigert");
-        case 75: return text8("Fehler beim Zugriff auf Pfad/Datei");
-        case 76: return text8("Pfad nicht gefunden");
-        default: return {};
+        case 5:
+            return text8("Unzulässiger Prozeduraufruf oder ungültiges Argument");
+        case 6:
+            return text8("Überlauf");
+        case 7:
+            return text8("Nicht genügend Speicher");
+        case 9:
+            return text8("Index außerhalb des gültigen Bereichs");
+        case 11:
+            return text8("Division durch Null");
+        case 13:
+            return text8("Typen unverträglich");
+        case 28:
+            return text8("Nicht genügend Stapelspeicher");
+        case 52:
+            return text8("Dateiname oder -nummer falsch");
+        case 53:
+            return text8("Datei nicht gefunden");
+        case 62:
+            return text8("Einlesen hinter Dateiende");
+        case 70:
+            return text8("Zugriff verweigert");
+        case 75:
+            return text8("Fehler beim Zugriff auf Pfad/Datei");
+        case 76:
+            return text8("Pfad nicht gefunden");
+        default:
+            return {};
     }
 }
 
@@ -29,7 +47,47 @@ RuntimeFailure::RuntimeFailure(FailureNumber number)
       description_(failureDescription(number_)),
       source_("Korvex") {}
 
-void raise(FailureNumber number) { throw RuntimeFailure(number); }
+RuntimeFailure::RuntimeFailure(FailureNumber number, std::string file) : RuntimeFailure(number) {
+    file_ = fromUtf8(file);
+}
+
+void raise(FailureNumber number) {
+    throw RuntimeFailure(number);
+}
+
+void raise(FailureNumber number, const std::string& path) {
+    throw RuntimeFailure(number, path);
+}
+
+RuntimeFailure currentFailure() {
+    try {
+        throw;
+    } catch (const RuntimeFailure& failure) {
+        return failure;
+    } catch (const std::out_of_range&) {
+        return RuntimeFailure(FailureNumber::IndexOutOfRange);
+    } catch (const std::bad_alloc&) {
+        return RuntimeFailure(FailureNumber::OutOfMemory);
+    } catch (const std::length_error&) {
+        return RuntimeFailure(FailureNumber::OutOfMemory);
+    } catch (...) {
+        return RuntimeFailure(FailureNumber::InvalidCall);
+    }
+}
+
+std::string failureBoxText(const RuntimeFailure& failure, const std::string& procedure) {
+    std::string text = text8("Fehler Nummer") + decimalText(failure.number(), true) +
+                       text8(" wurde ausgelöst von ") + failure.source() + std::string(kCrLf) +
+                       failure.description() + std::string(kCrLf) + "Sub: " + procedure;
+    return text + failureDetails(failure);
+}
+
+std::string failureDetails(const RuntimeFailure& failure) {
+    std::string text;
+    if (!failure.file().empty()) text += std::string(kCrLf) + "Datei: " + failure.file();
+    if (!failure.hint().empty()) text += std::string(kCrLf) + failure.hint();
+    return text;
+}
 
 std::int32_t checkedInt32(std::int64_t value) {
     if (value < std::numeric_limits<std::int32_t>::min() ||

@@ -13,6 +13,7 @@ namespace korvex {
 enum class FailureNumber : int {
     InvalidCall = 5,
     Overflow = 6,
+    OutOfMemory = 7,
     IndexOutOfRange = 9,
     DivisionByZero = 11,
     TypeMismatch = 13,
@@ -26,8 +27,11 @@ enum class FailureNumber : int {
 };
 
 class RuntimeFailure : public std::exception {
-public:
+  public:
     explicit RuntimeFailure(FailureNumber number);
+    // A failure about a file names it: "Datei nicht gefunden" alone leaves a
+    // user guessing which of a project's files is meant.
+    RuntimeFailure(FailureNumber number, std::string file);
 
     int number() const { return number_; }
     // German description, Windows-1252.
@@ -35,14 +39,41 @@ public:
     // The error source, always the program's name.
     const std::string& source() const { return source_; }
     const char* what() const noexcept override { return description_.c_str(); }
+    // The file the failure is about (Windows-1252), empty if none.
+    const std::string& file() const { return file_; }
+    // One German line that says what is likely wrong, empty if nothing is known.
+    const std::string& hint() const { return hint_; }
+    RuntimeFailure& withHint(std::string hint) {
+        hint_ = std::move(hint);
+        return *this;
+    }
 
-private:
+  private:
     int number_;
     std::string description_;
     std::string source_;
+    std::string file_;
+    std::string hint_;
 };
 
 [[noreturn]] void raise(FailureNumber number);
+// The file is a path as the file system knows it (UTF-8); it is kept as 8-bit text.
+[[noreturn]] void raise(FailureNumber number, const std::string& path);
+
+// Called inside a catch (...) block at a trap: the exception in flight as the
+// host's failure. Failures stay what they are; an index past the end of a
+// table is "Index außerhalb des gültigen Bereichs" (9), exhausted memory
+// "Nicht genügend Speicher" (7), anything else "Unzulässiger
+// Prozeduraufruf oder ungültiges Argument" (5).
+RuntimeFailure currentFailure();
+
+// "\r\nDatei: ..." and the hint line, for the boxes of traps that word their
+// first lines differently; empty when the failure has neither.
+std::string failureDetails(const RuntimeFailure& failure);
+
+// The text of the failure box of a trap: the classic three lines, then the
+// file and the hint when the failure has them.
+std::string failureBoxText(const RuntimeFailure& failure, const std::string& procedure);
 
 // German description of a classic error number (Windows-1252), empty if unknown.
 std::string failureDescription(int number);
@@ -58,19 +89,25 @@ std::uint8_t checkedByte(std::int64_t value);
 
 // A 16-bit signed counter of the host: passing its range raises the overflow failure.
 class Int16 {
-public:
+  public:
     constexpr Int16() = default;
     Int16(std::int64_t value) : value_(check(value)) {}  // NOLINT: behaves like the host's integer
 
     operator std::int16_t() const { return value_; }  // NOLINT
     std::int16_t value() const { return value_; }
 
-    Int16& operator+=(std::int64_t d) { value_ = check(value_ + d); return *this; }
-    Int16& operator-=(std::int64_t d) { value_ = check(value_ - d); return *this; }
+    Int16& operator+=(std::int64_t d) {
+        value_ = check(value_ + d);
+        return *this;
+    }
+    Int16& operator-=(std::int64_t d) {
+        value_ = check(value_ - d);
+        return *this;
+    }
     Int16& operator++() { return *this += 1; }
     Int16& operator--() { return *this -= 1; }
 
-private:
+  private:
     static std::int16_t check(std::int64_t value);
     std::int16_t value_ = 0;
 };

@@ -1,18 +1,18 @@
 #include "cli/cli_host.h"
 
-#include <iostream>
-
 #include "base/text.h"
 #include "cli/terminal_text.h"
 
 namespace korvex {
 namespace {
-std::string withUnixLineEnds(const std::string& text) { return replaceAll(text, "\r\n", "\n"); }
+std::string withUnixLineEnds(const std::string& text) {
+    return replaceAll(text, "\r\n", "\n");
+}
 }  // namespace
 
 MessageAnswer CliHost::messageBox(const std::string& title, const std::string& text,
                                   MessageButtons buttons, MessageIcon) {
-    std::cerr << toTerminal(title) << ": " << toTerminal(withUnixLineEnds(text)) << '\n';
+    err_ << toTerminal(title) << ": " << toTerminal(withUnixLineEnds(text)) << '\n';
     // Without anyone to ask, a question takes its first answer.
     return buttons == MessageButtons::YesNo || buttons == MessageButtons::YesNoCancel
                ? MessageAnswer::Yes
@@ -21,7 +21,7 @@ MessageAnswer CliHost::messageBox(const std::string& title, const std::string& t
 
 void CliHost::appendDialogText(const std::string& text) {
     dialogText_ += text;
-    std::cout << toTerminal(withUnixLineEnds(text)) << std::flush;
+    out_ << toTerminal(withUnixLineEnds(text)) << std::flush;
 }
 
 }  // namespace korvex

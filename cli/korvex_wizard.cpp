@@ -3,7 +3,6 @@
 // user's click would run it, and the generated program is printed.
 
 #include <deque>
-#include <fstream>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -12,7 +11,9 @@
 
 #include "base/cp1252.h"
 #include "base/failure.h"
+#include "base/files.h"
 #include "base/text.h"
+#include "cli/run_guard.h"
 #include "cli/terminal_text.h"
 #include "wizards/assistent52/assistent52.h"
 #include "wizards/core/wizard_host.h"
@@ -21,10 +22,6 @@ namespace {
 
 using namespace korvex;
 using namespace korvex::wizards;
-
-constexpr int kExitClean = 0;
-constexpr int kExitFailure = 2;
-constexpr int kExitUsage = 64;
 
 constexpr const char* kHelp =
     "Aufruf: korvex-wizard CHIP [Optionen]\n"
@@ -219,10 +216,7 @@ int parseArguments(const std::vector<std::string>& args, Options& options) {
     return kExitClean;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    const std::vector<std::string> args(argv + 1, argv + argc);
+int runWizard(const std::vector<std::string>& args) {
     for (const auto& arg : args) {
         if (arg == "--help" || arg == "-h") {
             std::cout << kHelp;
@@ -264,13 +258,7 @@ int main(int argc, char** argv) {
         }
         const std::string& program = wizard->previewText();
         if (!options.outputFile.empty()) {
-            std::ofstream out(options.outputFile, std::ios::binary);
-            out << program;
-            if (!out) {
-                std::cerr << "korvex-wizard: " << options.outputFile
-                          << toTerminal(text8(" kann nicht geschrieben werden.")) << '\n';
-                return kExitFailure;
-            }
+            writeWholeFile(options.outputFile, program);
         } else {
             std::cout << toTerminal(replaceAll(program, "\r\n", "\n"));
         }
@@ -284,11 +272,13 @@ int main(int argc, char** argv) {
         if (error.unknown()) return usageError(toTerminal(error.what()));
         std::cerr << "korvex-wizard: " << toTerminal(error.what()) << '\n';
         return kExitFailure;
-    } catch (const RuntimeFailure& failure) {
-        std::cerr << toTerminal(text8("Fehler Nummer") + decimalText(failure.number(), true) +
-                                ": " + failure.description())
-                  << '\n';
-        return kExitFailure;
     }
     return kExitClean;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    return toolMain("korvex-wizard", [&] { return runWizard(args); });
 }

@@ -1,8 +1,8 @@
 #include "cli/terminal_text.h"
 
+#include <langinfo.h>
 #include <clocale>
 #include <cstring>
-#include <langinfo.h>
 
 #include "base/cp1252.h"
 

@@ -61,11 +61,12 @@ DisassemblyResult Disassembler::disassembleFile(const std::string& path,
     DisassemblyResult result;
     try {
         run(path, options, monitor != nullptr ? *monitor : silent, result);
-    } catch (const RuntimeFailure& failure) {
+    } catch (...) {
+        const RuntimeFailure failure = currentFailure();
         host_.messageBox(kErrorTitle,
                          "Fehler # " + decimalText(failure.number()) +
                              text8(" wurde ausgelöst von ") + failure.source() +
-                             std::string(kCrLf) + failure.description(),
+                             std::string(kCrLf) + failure.description() + failureDetails(failure),
                          MessageButtons::Ok, MessageIcon::Critical);
         result.outcome = DisassemblyOutcome::Failed;
     }

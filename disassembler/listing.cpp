@@ -44,7 +44,7 @@ std::string listingText(const Sweep& sweep) {
 
 void writeListingFile(const Sweep& sweep, const std::string& path) {
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    if (!out) raise(FailureNumber::PathFileAccess);
+    if (!out) raise(FailureNumber::PathFileAccess, path);
     out << sweep.header();
     constexpr std::size_t kLinesAtOnce = 4096;
     std::string piece;
@@ -53,7 +53,9 @@ void writeListingFile(const Sweep& sweep, const std::string& path) {
         appendLines(sweep, first, std::min(sweep.lines.size(), first + kLinesAtOnce), piece);
         out.write(piece.data(), static_cast<std::streamsize>(piece.size()));
     }
-    if (!out) raise(FailureNumber::PathFileAccess);
+    // A full disk may show only when the last piece goes out.
+    out.close();
+    if (!out) raise(FailureNumber::PathFileAccess, path);
 }
 
 }  // namespace korvex

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "base/cp1252.h"
 #include "workbench/item_format.h"
 
 namespace korvex {
@@ -65,11 +66,42 @@ FailureNumber openingFailure(int error) {
 
 }  // namespace
 
+std::string extensionProblem(const Settings& s) {
+    const std::pair<const char*, const std::string*> named[] = {
+        {"Programmcode", &s.sourceExtension}, {"Listing", &s.listingExtension},
+        {"Binärcode", &s.binaryExtension},    {"Hexcode", &s.hexExtension},
+        {"Symboldatei", &s.symbolExtension},  {"Disassembling", &s.disassemblyExtension},
+    };
+    for (const auto& [name, extension] : named) {
+        if (extension->empty()) return text8("Die Dateiendung für ") + text8(name) + " ist leer.";
+        if (extension->find_first_of("/\\") != std::string::npos) {
+            return text8("Die Dateiendung für ") + text8(name) + text8(" „") + *extension +
+                   text8("“ enthält ein Trennzeichen von Pfaden.");
+        }
+    }
+    // The disassembly is saved by the user like a source, so only the five
+    // files of a run must differ.
+    constexpr std::size_t kRunFiles = 5;
+    for (std::size_t i = 0; i < kRunFiles; ++i) {
+        for (std::size_t j = i + 1; j < kRunFiles; ++j) {
+            if (upperCase(*named[i].second) == upperCase(*named[j].second)) {
+                return text8("Die Dateiendung „") + *named[i].second + text8("“ gilt für ") +
+                       text8(named[i].first) + " und " + text8(named[j].first) +
+                       text8("; eine Ausgabe würde eine andere Datei überschreiben.");
+            }
+        }
+    }
+    return {};
+}
+
 SettingsReadResult readSettingsFrom(std::istream& in, const std::string& programFolder) {
-    SettingsReadResult result{defaultSettings(programFolder), std::nullopt};
+    SettingsReadResult result{defaultSettings(programFolder), std::nullopt, {}};
     try {
         ItemReader reader(in);
         readFields(reader, result.settings);
+        // Values that read well but would lose files count as a damaged file.
+        result.problem = extensionProblem(result.settings);
+        if (!result.problem.empty()) raise(FailureNumber::TypeMismatch);
     } catch (const RuntimeFailure& failure) {
         result.settings = afterReadError(result.settings, programFolder);
         result.failure = failure;
@@ -95,7 +127,8 @@ SettingsReadResult readSettingsFile(const std::string& programFolder) {
         if (!file) failure = openingFailure(errno);
     }
     if (failure) {
-        return SettingsReadResult{defaultSettings(programFolder), RuntimeFailure(*failure)};
+        return SettingsReadResult{
+            defaultSettings(programFolder), RuntimeFailure(*failure, path), {}};
     }
     return readSettingsFrom(file, programFolder);
 }

@@ -21,7 +21,15 @@ struct SettingsReadResult {
     Settings settings;
     // The read error, if there was one.
     std::optional<RuntimeFailure> failure;
+    // What was wrong with values that read well but can't be used (German,
+    // Windows-1252); such a file counts as a read error too.
+    std::string problem;
 };
+
+// Why the file extensions can't be used: one empty, holding a path
+// separator, or the same for two of the files a run reads and writes (the
+// listing would overwrite the source). Empty when they are usable.
+std::string extensionProblem(const Settings& settings);
 
 SettingsReadResult readSettingsFrom(std::istream& in, const std::string& programFolder);
 

@@ -1,8 +1,8 @@
 #include "workbench/settings_store.h"
 
 #include "base/cp1252.h"
+#include "base/files.h"
 #include "base/text.h"
-#include "workbench/atomic_file.h"
 #include "workbench/settings_file.h"
 
 namespace korvex {

@@ -10,8 +10,8 @@ namespace {
 using DirectivesTest = AssemblerFixture;
 
 TEST_F(DirectivesTest, DriverFormsAndNames) {
-    for (const char* form : {"#CPU test", "#cpu=test", "#CPUtest", "# cpu  test", "CPU test",
-                             "cpu=test"}) {
+    for (const char* form :
+         {"#CPU test", "#cpu=test", "#CPUtest", "# cpu  test", "CPU test", "cpu=test"}) {
         ASSERT_EQ(assemble(std::string(form) + "\r\nSETB TR1\r\nMOV A,P1\r\n"),
                   RunOutcome::Completed)
             << form;
@@ -30,7 +30,7 @@ TEST_F(DirectivesTest, MalformedDriversNeverStopTheRun) {
     ASSERT_EQ(assemble("#cpu odd\r\nMOV A,P1\r\nSETB P1.1\r\nHIGHVEC:\r\n"), RunOutcome::Completed);
     const auto& state = assembler_->state();
     EXPECT_EQ(state.labelTable.at(1, 1), "-32768");  // read as a 16-bit value
-    EXPECT_EQ(state.sfrTable.at(0, 0), "");           // short line: empty name, stored
+    EXPECT_EQ(state.sfrTable.at(0, 0), "");          // short line: empty name, stored
     EXPECT_EQ(code(1), "0000\tE5\t90");
     EXPECT_EQ(code(2), "0002\tD2\t91");
 
@@ -41,8 +41,7 @@ TEST_F(DirectivesTest, MalformedDriversNeverStopTheRun) {
     host_.boxCount = 0;
     ASSERT_EQ(assemble("#cpu test\r\n#cpu missing\r\nNOP\r\n"), RunOutcome::Completed);
     EXPECT_EQ(host_.boxCount, 1);
-    EXPECT_EQ(host_.lastBoxText,
-              "Fehler  53: Datei nicht gefunden.\r\n" + folder_ + "missing.cpu");
+    EXPECT_EQ(host_.lastBoxText, "Fehler  53: Datei nicht gefunden.\r\n" + folder_ + "missing.cpu");
 
     std::string garbage;
     for (int i = 0; i < 2000; ++i) garbage += static_cast<char>((i * 7919) % 256);
@@ -59,9 +58,9 @@ TEST_F(DirectivesTest, SecondDriverCutsTheTables) {
 }
 
 TEST_F(DirectivesTest, UseChoosesTheImplicitCall) {
-    ASSERT_EQ(assembleLines({"Sub1", "#use lcall", "Sub1", "#USE  ACALL", "Sub1", "#USE XCALL",
-                             "SUB1:"}),
-              RunOutcome::Completed);
+    ASSERT_EQ(
+        assembleLines({"Sub1", "#use lcall", "Sub1", "#USE  ACALL", "Sub1", "#USE XCALL", "SUB1:"}),
+        RunOutcome::Completed);
     EXPECT_EQ(bytesOfRow(0), "11 07");
     EXPECT_EQ(bytesOfRow(2), "12 00 07");
     EXPECT_EQ(bytesOfRow(4), "11 07");
@@ -104,8 +103,8 @@ TEST_F(DirectivesTest, IncludesReadFromDiskOrFromOpenWindows) {
     EXPECT_EQ(bytesOfRow(3), "02 00 00");
     EXPECT_EQ(row(4).marker, ";>err66 Include-Datei nicht gefunden: " + folder_ + "missing.a51");
     EXPECT_EQ(readFile("inc.a51"), "INCLABEL:\r\nMOV A,#1\r\n");  // repaired on disk
-    EXPECT_EQ(host_.appendedText, "Lese " + folder_ + "inc.a51\r\nkann " + folder_ +
-                                      "missing.a51 nicht finden.\r\n");
+    EXPECT_EQ(host_.appendedText,
+              "Lese " + folder_ + "inc.a51\r\nkann " + folder_ + "missing.a51 nicht finden.\r\n");
     EXPECT_EQ(assembler_->state().includeList.at(1), folder_ + "inc.a51");
 }
 
@@ -115,6 +114,15 @@ TEST_F(DirectivesTest, IncludeOpenInAWindowIsReadFromTheWindow) {
     ASSERT_EQ(assembleLines({"#include inc.a51"}), RunOutcome::Completed);
     EXPECT_EQ(image(), "\x22\x22");
     EXPECT_FALSE(fileExists(folder_ + "TmpFile2.tmp"));  // the copy is gone after the run
+}
+
+TEST_F(DirectivesTest, IncludeIsShownAndListedAsTheSourceNamesIt) {
+    // Found on disk in another case, shown and listed as the source names it.
+    writeFile("teil.a51", "NOP\r\n");
+    ASSERT_EQ(assembleLines({"#include TEIL.A51", "RET"}), RunOutcome::Completed);
+    EXPECT_EQ(host_.appendedText, "Lese " + folder_ + "TEIL.A51\r\n");
+    EXPECT_EQ(assembler_->state().includeList.at(1), folder_ + "TEIL.A51");
+    EXPECT_EQ(image(), std::string("\x00\x22", 2));
 }
 
 TEST_F(DirectivesTest, IncludePathsGoUpWithDotDot) {

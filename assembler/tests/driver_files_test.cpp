@@ -16,33 +16,39 @@ namespace korvex::testing {
 namespace {
 
 const std::vector<std::string> kControllers = {
-    "8032",    "80C31",   "80C32",    "8051",      "80C51",    "80C52",    "80C320",
-    "89C420",  "DS5000",  "DS5001",   "89S53",     "89S8252",  "89S8253",  "89LP51ED2",
-    "89LP4052", "89LPC912", "89LPC913", "89LPC914", "C509",     "80515",    "80C515",
-    "C515",    "80535",   "80C535",   "80C517",    "80C537",   "C517",     "80C552"};
+    "8032",     "80C31",    "80C32",    "8051",     "80C51",   "80C52",   "80C320",
+    "89C420",   "DS5000",   "DS5001",   "89S53",    "89S8252", "89S8253", "89LP51ED2",
+    "89LP4052", "89LPC912", "89LPC913", "89LPC914", "C509",    "80515",   "80C515",
+    "C515",     "80535",    "80C535",   "80C517",   "80C537",  "C517",    "80C552"};
 
 // Names the wizards of a chip write, by kind: registers, bits, vectors.
 struct WizardNames {
     std::string sfrs, bits, vectors;
 };
 const std::map<std::string, WizardNames> kWizardNames = {
-    {"80C32", {"TMOD TH1 TL1 TH0 TL0 SCON SBUF T2CON RCAP2L RCAP2H TL2 TH2 PCON SP PSW IE IP",
-               "ES PS PX0 PT0 PX1 PT1 ET2 PT2 TR2 TF2 EXF2 TI RI TR0 TR1 EA",
-               "EXTI0 TIMER0 EXTI1 TIMER1 SINT TIMER2"}},
-    {"89S8253", {"IP IPH AUXR CLKREG SPCR SPSR SPDR WDTCON T2MOD T2CON RCAP2L RCAP2H PCON", "",
-                 "EXTI0 TIMER0 EXTI1 TIMER1 SINT TIMER2"}},
-    {"89LP4052", {"RL0 RH0 RL1 RH1 WDTCON PCON SPCR SPSR SCON TMOD SP", "",
-                  "EXTI0 TIMER0 EXTI1 TIMER1 SINT"}},
-    {"80C320", {"SCON0 SCON1 CKCON TA PCON TMOD TH1 T2CON RCAP2L RCAP2H", "EWT RWT",
-                "INT0 TF0 INT1 TF1 S0INT TF2 PFI S1INT INT2 INT3 INT4 INT5 WDTI"}},
-    {"C515", {"CRCL CRCH CCEN ADCON DAPR ADDAT IP0 IEN0 IEN1 WDTREL", "EXEN2 T2CM SWDT WDT EAL",
-              "EXTI0 TIMER0 EXTI1 TIMER1 TIMER2 ADCI"}},
-    {"C517", {"S0CON S0RELL S0RELH S1CON S1RELL S1RELH WDTREL IP0 IRCON1 ADDATH CMSEL CMEN CRCL "
-              "CRCH CCEN",
-              "TI0 RI0 SWDT WDT", "INT0 TIMER0 INT1 TIMER1 S0INT TIMER2 ADCI S1INT ICMP ICS ICR"}},
-    {"80C552", {"S0BUF SCON TM2CON CTCON CMH1 CML1 STE RTE PWMP PWM0 PWM1 ADCON S1CON S1ADR T3 "
-                "PCON",
-                "ES0 ES1 EAD SI", "EXTI0 TIMER0 EXTI1 TIMER1 SINT"}},
+    {"80C32",
+     {"TMOD TH1 TL1 TH0 TL0 SCON SBUF T2CON RCAP2L RCAP2H TL2 TH2 PCON SP PSW IE IP",
+      "ES PS PX0 PT0 PX1 PT1 ET2 PT2 TR2 TF2 EXF2 TI RI TR0 TR1 EA",
+      "EXTI0 TIMER0 EXTI1 TIMER1 SINT TIMER2"}},
+    {"89S8253",
+     {"IP IPH AUXR CLKREG SPCR SPSR SPDR WDTCON T2MOD T2CON RCAP2L RCAP2H PCON", "",
+      "EXTI0 TIMER0 EXTI1 TIMER1 SINT TIMER2"}},
+    {"89LP4052",
+     {"RL0 RH0 RL1 RH1 WDTCON PCON SPCR SPSR SCON TMOD SP", "", "EXTI0 TIMER0 EXTI1 TIMER1 SINT"}},
+    {"80C320",
+     {"SCON0 SCON1 CKCON TA PCON TMOD TH1 T2CON RCAP2L RCAP2H", "EWT RWT",
+      "INT0 TF0 INT1 TF1 S0INT TF2 PFI S1INT INT2 INT3 INT4 INT5 WDTI"}},
+    {"C515",
+     {"CRCL CRCH CCEN ADCON DAPR ADDAT IP0 IEN0 IEN1 WDTREL", "EXEN2 T2CM SWDT WDT EAL",
+      "EXTI0 TIMER0 EXTI1 TIMER1 TIMER2 ADCI"}},
+    {"C517",
+     {"S0CON S0RELL S0RELH S1CON S1RELL S1RELH WDTREL IP0 IRCON1 ADDATH CMSEL CMEN CRCL "
+      "CRCH CCEN",
+      "TI0 RI0 SWDT WDT", "INT0 TIMER0 INT1 TIMER1 S0INT TIMER2 ADCI S1INT ICMP ICS ICR"}},
+    {"80C552",
+     {"S0BUF SCON TM2CON CTCON CMH1 CML1 STE RTE PWMP PWM0 PWM1 ADCON S1CON S1ADR T3 "
+      "PCON",
+      "ES0 ES1 EAD SI", "EXTI0 TIMER0 EXTI1 TIMER1 SINT"}},
 };
 
 std::vector<std::string> words(const std::string& text) {
@@ -53,7 +59,7 @@ std::vector<std::string> words(const std::string& text) {
 }
 
 class DriverFilesTest : public AssemblerFixture {
-protected:
+  protected:
     void SetUp() override {
         AssemblerFixture::SetUp();
         assembler_->settings().programFolder = std::string(KORVEX_DATA_DIR) + "/cpu/";
@@ -118,6 +124,27 @@ TEST_F(DriverFilesTest, NamesOfADriverAssembleToItsAddresses) {
               RunOutcome::Completed);
     EXPECT_EQ(image().substr(0, 10), std::string("\x75\x89\x21\xD2\x8E\xF5\xCA\x20\xB2\xFD", 10));
     EXPECT_EQ(image().substr(0x2B), "\x32");
+}
+
+TEST_F(DriverFilesTest, VectorsOfTheChipsOwnInterruptsStandWhereTheDatasheetsPutThem) {
+    // An interrupt enabled by IE.n jumps to 3 + 8n: the comparator of the
+    // 89LP4052 (EC, IE.6) to 0033h.
+    const struct {
+        const char* chip;
+        const char* vector;
+        int address;
+    } kVectors[] = {{"89LP4052", "COMPARATOR", 0x33},
+                    {"80C32", "TIMER2", 0x2B},
+                    {"80C552", "TIMER2", 0x73},
+                    {"89LPC912", "COMPARATOR", 0x43}};
+    for (const auto& wanted : kVectors) {
+        SCOPED_TRACE(wanted.chip);
+        ASSERT_EQ(assemble(std::string("#cpu ") + wanted.chip + "\r\n"), RunOutcome::Completed);
+        const RunState& state = assembler_->state();
+        const int row = state.labelTable.find(wanted.vector);
+        ASSERT_GE(row, 0);
+        EXPECT_EQ(parseDecimal(state.labelTable.at(row, 1)), wanted.address);
+    }
 }
 
 }  // namespace

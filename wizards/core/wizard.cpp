@@ -1,6 +1,7 @@
 #include "wizards/core/wizard.h"
 
 #include <ctime>
+#include <stdexcept>
 
 #include "base/cp1252.h"
 #include "base/text.h"
@@ -164,12 +165,18 @@ void Wizard::fireChange(const Control& control) {
 }
 
 void Wizard::withArithmeticTrap(const std::function<void()>& operation) {
-    try {
-        operation();
-    } catch (const RuntimeFailure& failure) {
+    const auto report = [this](const RuntimeFailure& failure) {
         host_.failure(text8("Fehler Nummer") + std::to_string(failure.number()) +
                       text8(" wurde ausgelöst von ") + failure.source() + "\r\n" +
                       failure.description() + text8(": Überprüfen Sie Ihre Eingaben."));
+    };
+    try {
+        operation();
+    } catch (const RuntimeFailure& failure) {
+        report(failure);
+    } catch (const std::out_of_range&) {
+        // An index past a table's end is the host's failure 9, not an abort.
+        report(RuntimeFailure(FailureNumber::IndexOutOfRange));
     }
 }
 

@@ -20,7 +20,7 @@ SettingsReadResult readText(const std::string& text) {
 
 // Every value away from its default and from its neighbours.
 const std::string kUnusual =
-    "\"asm\",\"lst, x\",\"\",\"hex\",\"dis\",\"sym\",-32768,32767,1,-1,\"80C552\","
+    "\"asm\",\"lst, x\",\"bin\",\"hex\",\"dis\",\"sym\",-32768,32767,1,-1,\"80C552\","
     "-2147483648,2147483647,4,\"Courier New\",12,#TRUE#,#FALSE#\r\n"
     "\"/home/j\xFCrgen/\",\"/a/\",\"/b/\",\"/h/\",\"/d/\",\"/s/\",5,6,7,8\r\n"
     "-2147483633\r\n1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8\r\n9\r\n10\r\n"
@@ -50,7 +50,7 @@ TEST(SettingsFile, EveryValueHasItsPlaceAndWritesBackUnchanged) {
                                         s.hexExtension, s.disassemblyExtension, s.symbolExtension,
                                         s.ControllerName, s.EditorFontName, s.sourceFolder,
                                         s.symbolFolder}),
-              (std::vector<std::string>{"asm", "lst, x", "", "hex", "dis", "sym", "80C552",
+              (std::vector<std::string>{"asm", "lst, x", "bin", "hex", "dis", "sym", "80C552",
                                         "Courier New", "/home/j\xFCrgen/", "/s/"}));
     EXPECT_EQ(
         (std::vector<long>{s.HexWindowLeft, s.HexWindowTop, s.HexWindowWidth, s.HexWindowHeight,
@@ -110,6 +110,28 @@ TEST(SettingsFile, ErrorBeforeTheReferenceWindowLeavesAllDefaults) {
     ASSERT_TRUE(result.failure.has_value());
     EXPECT_EQ(result.failure->number(), 13);
     EXPECT_EQ(result.settings, defaultSettings("/p/"));
+}
+
+TEST(SettingsFile, UnusableExtensionsAreAReadErrorWithTheFallback) {
+    // Commas alone or line ends alone read as empty items: every output
+    // would land on "prog.".
+    for (const std::string text : {std::string(200, ','), std::string(100, '\n')}) {
+        const SettingsReadResult result = readText(text);
+        ASSERT_TRUE(result.failure.has_value());
+        EXPECT_EQ(result.settings, afterReadError(result.settings, "/p/"));
+        EXPECT_EQ(result.settings.hexExtension, "h51");
+    }
+    // A listing extension equal to the source's would overwrite the source.
+    std::string clash = kUnusual;
+    clash.replace(clash.find("lst, x"), 6, "ASM");
+    const SettingsReadResult result = readText(clash);
+    ASSERT_TRUE(result.failure.has_value());
+    EXPECT_EQ(result.settings.listingExtension, "l51");
+    EXPECT_NE(result.problem.find("Programmcode und Listing"), std::string::npos);
+    // An extension can't lead out of the source's folder.
+    std::string escape = kUnusual;
+    escape.replace(escape.find("hex"), 3, "x/../../y");
+    EXPECT_NE(readText(escape).problem.find("Trennzeichen"), std::string::npos);
 }
 
 }  // namespace
