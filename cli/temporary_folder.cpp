@@ -22,13 +22,10 @@ volatile std::sig_atomic_t folderRegistered = 0;
 
 constexpr int kCleanedSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGPIPE};
 
-struct LinuxDirent64 {
-    ino64_t inode;
-    off64_t offset;
-    unsigned short length;
-    unsigned char type;
-    char name[];
-};
+// The layout of a record of getdents64: inode (8 bytes), offset (8), record
+// length (2), type (1), then the name with its terminating zero.
+constexpr std::size_t kRecordLengthAt = 16;
+constexpr std::size_t kNameAt = 19;
 
 // Only system calls, which are safe inside a handler: the folder is flat,
 // so its files go and then the folder itself.
@@ -41,12 +38,13 @@ void removeRegisteredFolder() {
             const long got = ::syscall(SYS_getdents64, fd, buffer, sizeof buffer);
             if (got <= 0) break;
             for (long at = 0; at < got;) {
-                const auto* entry = reinterpret_cast<const LinuxDirent64*>(buffer + at);
-                at += entry->length;
-                if (std::strcmp(entry->name, ".") == 0 || std::strcmp(entry->name, "..") == 0) {
-                    continue;
-                }
-                ::unlinkat(fd, entry->name, 0);
+                unsigned short length = 0;
+                std::memcpy(&length, buffer + at + kRecordLengthAt, sizeof length);
+                const char* name = buffer + at + kNameAt;
+                at += length;
+                if (length == 0) break;
+                if (std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0) continue;
+                ::unlinkat(fd, name, 0);
             }
         }
         ::close(fd);
