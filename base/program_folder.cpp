@@ -11,20 +11,33 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool holdsDrivers(const std::string& folder) {
+bool isFolder(const std::string& path) {
     std::error_code ec;
-    if (folder.empty() || !fs::is_directory(folder, ec)) return false;
-    for (const auto& entry : fs::directory_iterator(folder, ec)) {
-        if (entry.path().extension() == ".cpu") return true;
+    return !path.empty() && fs::is_directory(path, ec);
+}
+
+// Stepping with an error code: an unreadable folder holds no drivers rather
+// than throwing out of a plain range loop.
+bool holdsDrivers(const std::string& folder) {
+    if (!isFolder(folder)) return false;
+    std::error_code ec;
+    for (fs::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
+        if (it->path().extension() == ".cpu") return true;
     }
     return false;
 }
 
-void seedFrom(const std::string& source, const std::string& target) {
-    std::error_code ec;
-    fs::create_directories(target, ec);
-    if (source.empty() || !fs::is_directory(source, ec)) return;
-    fs::copy(source, target, fs::copy_options::recursive | fs::copy_options::skip_existing, ec);
+std::string perUserFolder(const std::string& homeFolder) {
+    return withTrailingSlash(homeFolder) + ".local/share/korvex/";
+}
+
+// The sources that name a folder outright, or the executable's folder when it
+// holds the drivers; empty when the choice falls to the per-user folder.
+std::string chosenBeforePerUser(const ProgramFolderSources& sources) {
+    if (!sources.explicitFolder.empty()) return withTrailingSlash(sources.explicitFolder);
+    if (!sources.environment.empty()) return withTrailingSlash(sources.environment);
+    if (holdsDrivers(sources.executableFolder)) return withTrailingSlash(sources.executableFolder);
+    return {};
 }
 
 }  // namespace
@@ -35,12 +48,31 @@ std::string withTrailingSlash(std::string folder) {
 }
 
 std::string resolveProgramFolder(const ProgramFolderSources& sources) {
-    if (!sources.explicitFolder.empty()) return withTrailingSlash(sources.explicitFolder);
-    if (!sources.environment.empty()) return withTrailingSlash(sources.environment);
-    if (holdsDrivers(sources.executableFolder)) return withTrailingSlash(sources.executableFolder);
-    const std::string home = withTrailingSlash(sources.homeFolder) + ".local/share/korvex/";
-    if (!holdsDrivers(home)) seedFrom(sources.installedData, home);
-    return home;
+    if (std::string chosen = chosenBeforePerUser(sources); !chosen.empty()) return chosen;
+    const std::string perUser =
+        sources.homeFolder.empty() ? std::string() : perUserFolder(sources.homeFolder);
+    if (!perUser.empty() && holdsDrivers(perUser)) return perUser;
+    if (holdsDrivers(sources.installedData)) return withTrailingSlash(sources.installedData);
+    if (!perUser.empty()) return perUser;
+    if (!sources.installedData.empty()) return withTrailingSlash(sources.installedData);
+    if (!sources.executableFolder.empty()) return withTrailingSlash(sources.executableFolder);
+    return "./";
+}
+
+std::string prepareProgramFolderForWriting(const ProgramFolderSources& sources) {
+    if (std::string chosen = chosenBeforePerUser(sources); !chosen.empty()) return chosen;
+    if (!isFolder(sources.homeFolder)) return {};
+    const std::string folder = perUserFolder(sources.homeFolder);
+    std::error_code ec;
+    fs::create_directories(folder, ec);
+    if (ec || !isFolder(folder)) return {};
+    if (isFolder(sources.installedData)) {
+        // Files the user already has there (korvex.cfg, own drivers) stay.
+        fs::copy(sources.installedData, folder,
+                 fs::copy_options::recursive | fs::copy_options::skip_existing, ec);
+        if (ec) return {};
+    }
+    return folder;
 }
 
 ProgramFolderSources processProgramFolderSources(const std::string& explicitFolder) {

@@ -115,7 +115,7 @@ TEST(SettingsFile, ErrorBeforeTheReferenceWindowLeavesAllDefaults) {
 TEST(SettingsFile, UnusableExtensionsAreAReadErrorWithTheFallback) {
     // Commas alone or line ends alone read as empty items: every output
     // would land on "prog.".
-    for (const std::string text : {std::string(200, ','), std::string(100, '\n')}) {
+    for (const std::string& text : {std::string(200, ','), std::string(100, '\n')}) {
         const SettingsReadResult result = readText(text);
         ASSERT_TRUE(result.failure.has_value());
         EXPECT_EQ(result.settings, afterReadError(result.settings, "/p/"));

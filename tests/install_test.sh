@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# The installed programs as a user meets them: `cmake --install` lays out bin/
+# and share/korvex/, and korvex-asm, run from another folder, finds its drivers
+# there without creating anything in the user's home.
+# Usage: install_test.sh CMAKE BUILD_DIR
+set -euo pipefail
+cmake=$1
+build=$2
+
+work=$(mktemp -d "${TMPDIR:-/tmp}/korvex-install-XXXXXX")
+trap 'rm -rf "$work"' EXIT
+fail() {
+    echo "FEHLER: $*" >&2
+    exit 1
+}
+
+prefix=$work/prefix
+"$cmake" --install "$build" --prefix "$prefix" >/dev/null
+for program in korvex-asm korvex-disasm korvex-wizard; do
+    [ -x "$prefix/bin/$program" ] || fail "$program fehlt in bin/"
+done
+[ -f "$prefix/share/korvex/80C32.cpu" ] || fail "Treiber fehlen in share/korvex/"
+
+# P1 and TR0 exist only through the driver named by #cpu.
+mkdir -p "$work/src" "$work/elsewhere" "$work/home"
+printf '#cpu 80C32\r\n        MOV P1,#0AAh\r\n        SETB TR0\r\n' >"$work/src/probe.a51"
+
+cd "$work/elsewhere"
+status=0
+env -u KORVEX_HOME HOME="$work/home" "$prefix/bin/korvex-asm" --hex ../src/probe.a51 \
+    >report.txt 2>&1 || status=$?
+[ "$status" -eq 0 ] || fail "korvex-asm endete mit $status: $(cat report.txt)"
+grep -q '7590AAD28C' "$work/src/probe.h51" || fail "falscher Code: $(cat "$work/src/probe.h51")"
+[ -z "$(ls -A "$work/home")" ] || fail "im leeren HOME entstand: $(ls -A "$work/home")"
+
+# A home folder that does not exist is not created either.
+rm -f "$work/src/probe.h51"
+status=0
+env -u KORVEX_HOME HOME="$work/missing/home" "$prefix/bin/korvex-asm" --hex ../src/probe.a51 \
+    >report.txt 2>&1 || status=$?
+[ "$status" -eq 0 ] || fail "korvex-asm ohne HOME-Ordner endete mit $status: $(cat report.txt)"
+[ -f "$work/src/probe.h51" ] || fail "keine HEX-Datei ohne HOME-Ordner"
+[ ! -e "$work/missing" ] || fail "ein nicht vorhandenes HOME wurde angelegt"
+
+# The disassembler reads the same installed drivers for its names.
+env -u KORVEX_HOME HOME="$work/home" "$prefix/bin/korvex-disasm" --controller 80C32 \
+    "$work/src/probe.h51" >listing.txt 2>&1 || fail "korvex-disasm: $(cat listing.txt)"
+grep -q 'P1' listing.txt || fail "korvex-disasm ohne Treibernamen: $(cat listing.txt)"
+[ -z "$(ls -A "$work/home")" ] || fail "korvex-disasm schrieb ins HOME"
+echo "Installation in Ordnung"
