@@ -2,9 +2,6 @@
 
 #include <filesystem>
 
-#include "assembler/assembler.h"
-#include "assembler/compile_source.h"
-#include "assembler/length_check.h"
 #include "base/cp1252.h"
 #include "base/files.h"
 #include "base/program_folder.h"
@@ -14,6 +11,7 @@
 #include "cli/source_hints.h"
 #include "cli/temporary_folder.h"
 #include "cli/terminal_text.h"
+#include "workbench/compile_command.h"
 #include "workbench/settings_file.h"
 
 namespace korvex {
@@ -102,9 +100,7 @@ void say(std::ostream& stream, const std::string& utf8) {
 // The extensions chosen in the workbench. A command-line tool asks no
 // question: a missing korvex.cfg silently leaves the defaults, a damaged one
 // leaves them with a note.
-AssemblerSettings configuredSettings(const std::string& programFolder, std::ostream& err) {
-    AssemblerSettings settings;
-    settings.programFolder = programFolder;
+Settings configuredSettings(const std::string& programFolder, std::ostream& err) {
     const SettingsReadResult read = readSettingsFile(programFolder);
     if (read.failure && read.failure->number() != static_cast<int>(FailureNumber::FileNotFound)) {
         err << kTool << ": "
@@ -113,11 +109,7 @@ AssemblerSettings configuredSettings(const std::string& programFolder, std::ostr
             << '\n';
         if (!read.problem.empty()) err << "  " << toTerminal(read.problem) << '\n';
     }
-    settings.listingExtension = read.settings.listingExtension;
-    settings.binaryExtension = read.settings.binaryExtension;
-    settings.hexExtension = read.settings.hexExtension;
-    settings.symbolExtension = read.settings.symbolExtension;
-    return settings;
+    return read.settings;
 }
 
 void explainNothingCompiled(NothingToCompile why, std::ostream& err) {
@@ -148,47 +140,44 @@ int assemble(const Options& options, std::ostream& out, std::ostream& err) {
         return kExitFailure;
     }
 
-    CliHost host(out, err);
-    const std::string sourceText = readWholeFile(sourcePath.string());
-    // The file is compiled as the workbench compiles a window showing it:
-    // a member of a project compiles the project.
-    NothingToCompile why{};
-    const auto compiled = decideCompileSource(sourcePath.string(), sourceText, host, &why);
-    if (!compiled) {
-        explainNothingCompiled(why, err);
-        return kExitFailure;
-    }
-
-    AssemblerSettings settings = configuredSettings(
-        resolveProgramFolder(processProgramFolderSources(options.programFolder)), err);
     const TemporaryFolder temporary;
     if (temporary.path().empty()) {
         say(err, "kein Ordner für temporäre Dateien.");
         return kExitFailure;
     }
-    settings.temporaryFolder = temporary.path();
-    settings.sourceFolder =
-        withTrailingSlash(std::filesystem::path(compiled->name).parent_path().string());
+    AssemblerSettings assemblerSettings;
+    assemblerSettings.programFolder =
+        resolveProgramFolder(processProgramFolderSources(options.programFolder));
+    const Settings settings = configuredSettings(assemblerSettings.programFolder, err);
 
-    Assembler assembler(host, settings);
-    writeWholeFile(settings.temporaryFolder + "TmpFile.tmp", compiled->text);
-    std::string sourceName = compiled->name;
-    const RunOutcome outcome = assembler.assembleSource(sourceName, options.switches);
-    if (outcome != RunOutcome::Completed) {
-        if (const std::string hint = sourceTextHint(compiled->text); !hint.empty()) {
-            err << kTool << ": " << toTerminal(hint) << '\n';
-        }
-        return kExitFailure;
+    // The file is compiled as the workbench compiles a window showing it:
+    // a member of a project compiles the project.
+    CliHost host(out, err);
+    Assembler assembler(host, assemblerSettings);
+    const CompileResult result =
+        compileWindow(assembler, host, settings,
+                      {sourcePath.string(), readWholeFile(sourcePath.string()), options.switches,
+                       temporary.path()});
+    switch (result.status) {
+        case CompileStatus::NothingToCompile:
+            explainNothingCompiled(result.why, err);
+            return kExitFailure;
+        case CompileStatus::Aborted:
+            return kExitFailure;
+        case CompileStatus::Failed:
+            if (const std::string hint = sourceTextHint(result.sourceText); !hint.empty()) {
+                err << kTool << ": " << toTerminal(hint) << '\n';
+            }
+            return kExitFailure;
+        case CompileStatus::Completed:
+            break;
     }
-    const std::string& report = assembler.state().reportText;
-    out << toTerminal(replaceAll(report, "\r\n", "\n")) << std::flush;
-    int status = startsWith(report, "Warnungen/Fehler:") ? kExitFindings : kExitClean;
+    out << toTerminal(replaceAll(result.report, "\r\n", "\n")) << std::flush;
     // The code is right only where every statement kept its first length.
-    for (const std::string& warning : lengthChangeWarnings(assembler.state())) {
+    for (const std::string& warning : result.lengthWarnings) {
         err << kTool << ": " << toTerminal(warning) << '\n';
-        status = kExitFindings;
     }
-    return status;
+    return result.hasFindings || !result.lengthWarnings.empty() ? kExitFindings : kExitClean;
 }
 
 }  // namespace

@@ -1,0 +1,83 @@
+#include "workbench/compile_command.h"
+
+#include <filesystem>
+
+#include "assembler/length_check.h"
+#include "assembler/source_places.h"
+#include "base/files.h"
+#include "base/program_folder.h"
+#include "base/text.h"
+
+namespace korvex {
+
+std::vector<Finding> findingsOf(const RunState& state) {
+    std::vector<Finding> findings;
+    const std::vector<SourcePlace> places = sourcePlaces(state);
+    constexpr std::string_view kMark = ";>err";
+    for (std::size_t row = 0; row < state.sourceTable.size() && row < places.size(); ++row) {
+        const std::string& marker = state.sourceTable[row].marker;
+        if (!startsWith(marker, kMark)) continue;
+        std::size_t at = kMark.size();
+        int number = 0;
+        while (at < marker.size() && marker[at] >= '0' && marker[at] <= '9' && number < 10000) {
+            number = number * 10 + (marker[at++] - '0');
+        }
+        // ";>err6: words" and ";>err66 words" both occur.
+        if (at < marker.size() && marker[at] == ':') ++at;
+        const auto line = parseDecimal(places[row].line, 0);
+        findings.push_back(
+            {places[row].name, static_cast<int>(line), number, trimBlanks(marker.substr(at))});
+    }
+    return findings;
+}
+
+CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& settings,
+                            const CompileRequest& request) {
+    CompileResult result;
+    NothingToCompile why{};
+    auto source = decideCompileSource(request.caption, request.text, host, &why);
+    if (!source) {
+        result.why = why;
+        return result;
+    }
+    result.sourceName = source->name;
+    result.sourceText = std::move(source->text);
+
+    AssemblerSettings& run = assembler.settings();
+    run.temporaryFolder = request.temporaryFolder;
+    run.sourceFolder =
+        withTrailingSlash(std::filesystem::path(result.sourceName).parent_path().string());
+    run.listingExtension = settings.listingExtension;
+    run.binaryExtension = settings.binaryExtension;
+    run.hexExtension = settings.hexExtension;
+    run.symbolExtension = settings.symbolExtension;
+
+    try {
+        writeWholeFile(request.temporaryFolder + "TmpFile.tmp", result.sourceText);
+    } catch (const RuntimeFailure& failure) {
+        host.messageBox("Fehler", failureBoxText(failure, "Compilieren"), MessageButtons::Ok,
+                        MessageIcon::Critical);
+        result.status = CompileStatus::Failed;
+        return result;
+    }
+    std::string sourceName = result.sourceName;
+    switch (assembler.assembleSource(sourceName, request.switches)) {
+        case RunOutcome::Aborted:
+            result.status = CompileStatus::Aborted;
+            return result;
+        case RunOutcome::Failed:
+            result.status = CompileStatus::Failed;
+            return result;
+        case RunOutcome::Completed:
+            break;
+    }
+    const RunState& state = assembler.state();
+    result.status = CompileStatus::Completed;
+    result.report = state.reportText;
+    result.hasFindings = startsWith(result.report, "Warnungen/Fehler:");
+    result.findings = findingsOf(state);
+    result.lengthWarnings = lengthChangeWarnings(state);
+    return result;
+}
+
+}  // namespace korvex
