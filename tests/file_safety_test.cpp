@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -15,33 +13,21 @@
 #include <unistd.h>
 
 #include "base/program_folder.h"
+#include "tests/support/process.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Result {
-    int exitCode;
-    std::string output;
-};
+using Result = korvex::testing::ProcessResult;
+using korvex::testing::readFileBytes;
 
-// Through bash, for ulimit, pipes and signals; standard error joins the output.
 Result shell(const std::string& script) {
-    std::string quoted;
-    for (char c : script) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    Result result{-1, {}};
-    FILE* pipe = popen(("bash -c '" + quoted + "' 2>&1").c_str(), "r");
-    if (pipe == nullptr) return result;
-    std::array<char, 4096> buffer{};
-    while (fgets(buffer.data(), buffer.size(), pipe) != nullptr) result.output += buffer.data();
-    const int status = pclose(pipe);
-    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
+    return korvex::testing::runBash(script);
 }
 
 std::string readBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    return readFileBytes(path);
 }
 
 bool contains(const Result& r, const std::string& text) {

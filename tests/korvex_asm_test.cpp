@@ -3,49 +3,35 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include "base/program_folder.h"
+#include "tests/support/process.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Result {
-    int exitCode;
-    std::string output;
-};
-
-Result runCommand(const std::string& command);
-
-Result run(const std::string& arguments) {
-    const std::string command = std::string(KORVEX_ASM) + " " + arguments + " 2>&1";
-    return runCommand(command);
-}
+using korvex::testing::ProcessResult;
+using korvex::testing::readFileBytes;
+using Result = ProcessResult;
 
 Result runCommand(const std::string& command) {
-    Result result{-1, {}};
-    FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr) return result;
-    std::array<char, 4096> buffer{};
-    while (fgets(buffer.data(), buffer.size(), pipe) != nullptr) result.output += buffer.data();
-    const int status = pclose(pipe);
-    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
+    return korvex::testing::runProcess(command);
+}
+
+Result run(const std::string& arguments) {
+    return runCommand(std::string(KORVEX_ASM) + " " + arguments + " 2>&1");
 }
 
 std::string readBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    return readFileBytes(path);
 }
 
 class KorvexAsmTest : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         folder_ = korvex::makePrivateTemporaryFolder();
         write("testchip.cpu", "VECTOR\r\n0000 RESET\r\nSFR\r\nE0 ACC\r\nBIT\r\nD7 CY\r\n");
@@ -125,9 +111,9 @@ TEST_F(KorvexAsmTest, HexFileAgreesWithBinaryForAnIndependentReader) {
     const std::string source = write("image.a51", text);
     ASSERT_EQ(runHere("--bin --hex " + source).exitCode, 0);
     const std::string converted = folder_ + "converted.bin";
-    ASSERT_EQ(std::system(("/usr/bin/srec_cat " + folder_ + "image.h51 -Intel -o " + converted +
-                           " -Binary")
-                              .c_str()),
+    ASSERT_EQ(std::system(
+                  ("/usr/bin/srec_cat " + folder_ + "image.h51 -Intel -o " + converted + " -Binary")
+                      .c_str()),
               0);
     EXPECT_EQ(readBytes(converted), readBytes(folder_ + "image.b51"));
 }

@@ -3,23 +3,19 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 
 #include "base/program_folder.h"
+#include "tests/support/process.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Result {
-    int exitCode = -1;
-    std::string output;
-};
+using Result = korvex::testing::ProcessResult;
 
 class KorvexDisasm : public ::testing::Test {
   protected:
@@ -31,25 +27,15 @@ class KorvexDisasm : public ::testing::Test {
 
     // Runs in the test folder, which is the program folder too.
     Result run(const std::string& arguments, bool withStderr = true) {
-        const std::string command = "cd " + folder_ + " && LC_ALL=C.UTF-8 " KORVEX_DISASM " " +
-                                    arguments + (withStderr ? " 2>&1" : " 2>/dev/null");
-        Result result;
-        FILE* pipe = popen(command.c_str(), "r");
-        if (pipe == nullptr) return result;
-        std::array<char, 4096> buffer{};
-        std::size_t got = 0;
-        while ((got = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
-            result.output.append(buffer.data(), got);
-        const int status = pclose(pipe);
-        result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        return result;
+        return korvex::testing::runProcess("cd " + folder_ +
+                                           " && LC_ALL=C.UTF-8 " KORVEX_DISASM " " + arguments +
+                                           (withStderr ? " 2>&1" : " 2>/dev/null"));
     }
     void write(const std::string& name, const std::string& bytes) {
         std::ofstream(folder_ + name, std::ios::binary) << bytes;
     }
     std::string read(const std::string& name) {
-        std::ifstream in(folder_ + name, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+        return korvex::testing::readFileBytes(folder_ + name);
     }
     std::string here() const { return "--program-folder " + folder_ + " --controller chip "; }
 

@@ -1,7 +1,5 @@
 #include "tests/support/s51_runner.h"
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -9,6 +7,7 @@
 #include "base/cp1252.h"
 #include "base/program_folder.h"
 #include "base/text.h"
+#include "tests/support/process.h"
 
 namespace korvex::testing {
 namespace {
@@ -21,7 +20,8 @@ bool simulatorAvailable() {
 
 std::map<std::string, int> runInSimulator(const std::string& hexText, std::int32_t stopAddress,
                                           const std::vector<std::string>& cells) {
-    const std::string folder = makePrivateTemporaryFolder();
+    const ScratchFolder scratch;
+    const std::string& folder = scratch.path();
     std::ofstream(folder + "program.ihx", std::ios::binary) << hexText;
     std::ofstream commands(folder + "commands");
     commands << "load \"" << folder << "program.ihx\"\n"
@@ -33,17 +33,9 @@ std::map<std::string, int> runInSimulator(const std::string& hexText, std::int32
     }
     commands << "quit\n";
     commands.close();
-    const std::string command = std::string("timeout 20 ") + kSimulator + " -t 8052 -C " +
-                                folder + "commands < /dev/null 2>&1";
-    std::string output;
-    FILE* pipe = popen(command.c_str(), "r");
-    std::array<char, 512> buffer{};
-    while (pipe != nullptr && fgets(buffer.data(), buffer.size(), pipe) != nullptr) {
-        output += buffer.data();
-    }
-    if (pipe != nullptr) pclose(pipe);
-    std::error_code ec;
-    std::filesystem::remove_all(folder, ec);
+    const std::string command = std::string("timeout 20 ") + kSimulator + " -t 8052 -C " + folder +
+                                "commands < /dev/null 2>&1";
+    const std::string output = runProcess(command).output;
 
     // Each dump echoes its command, then prints its line.
     std::map<std::string, int> values;

@@ -226,5 +226,17 @@ TEST_F(WizardFixture, SerialInterruptWithPortWritesMainLoopAndRoutines) {
                                         "\t\tsetb Empfang", "\tend if", "reti"}));
 }
 
+TEST_F(WizardFixture, ReloadsLongerThanTwoDigitsAreReckonedWithoutWrapping) {
+    // The dialog's fields take two digits; a value set otherwise is a number
+    // all the same: 256 x 800000h is 2^31, past a 32-bit integer.
+    apply({"T2Check0=1", "T2Combo1=8", "T2Text4=00", "T2Text5=800000"});
+    EXPECT_NE(toUtf8(s().T2Text1.text).find("Die Baudrate beträgt -"), std::string::npos)
+        << toUtf8(s().T2Text1.text);
+    // 256 - 80000000h is positive.
+    apply({"T0Combo1=2", "T0Text2=80000000"});
+    EXPECT_EQ(toUtf8(s().T0Text3.text).find("beträgt -"), std::string::npos)
+        << toUtf8(s().T0Text3.text);
+}
+
 }  // namespace
 }  // namespace korvex::wizards::testing

@@ -3,33 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
-#include "base/program_folder.h"
+#include "tests/support/process.h"
 
 namespace {
 
-struct Result {
-    int exitCode = -1;
-    std::string output;
-};
+using Result = korvex::testing::ProcessResult;
 
 Result run(const std::string& arguments, bool withErrors = true) {
-    const std::string command =
-        std::string(KORVEX_WIZARD) + " " + arguments + (withErrors ? " 2>&1" : " 2>/dev/null");
-    Result result;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr) return result;
-    std::array<char, 4096> buffer{};
-    while (fgets(buffer.data(), buffer.size(), pipe) != nullptr) result.output += buffer.data();
-    const int status = pclose(pipe);
-    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
+    return korvex::testing::runProcess(std::string(KORVEX_WIZARD) + " " + arguments +
+                                       (withErrors ? " 2>&1" : " 2>/dev/null"));
 }
 
 bool contains(const std::string& text, const std::string& part) {
@@ -85,16 +69,14 @@ TEST(KorvexWizard, QuestionsAndInputsAreScripted) {
 }
 
 TEST(KorvexWizard, WritesWindows1252WithCrLf) {
-    const std::string folder = korvex::makePrivateTemporaryFolder();
-    const std::string file = folder + "start.a51";
+    const korvex::testing::ScratchFolder folder;
+    const std::string file = folder.path() + "start.a51";
     const Result r = run("52 --date D --set 'SText5=Förderband' -o " + file);
     EXPECT_EQ(r.exitCode, 0);
     EXPECT_TRUE(r.output.empty());
-    std::ifstream in(file, std::ios::binary);
-    const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    const std::string bytes = korvex::testing::readFileBytes(file);
     EXPECT_EQ(bytes.rfind("; F\xF6rderband, D\r\n\r\n#cpu = 80C32\t; @12 MHz\r\n", 0), 0u);
     EXPECT_TRUE(contains(bytes, "Z\xE4hler.\r\n"));
-    std::filesystem::remove_all(folder);
 }
 
 }  // namespace
