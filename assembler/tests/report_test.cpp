@@ -53,7 +53,8 @@ const char* const kReport =
     "   Doppel: 7Ch\r\n"
     "   Wert: 79h\r\n"
     "\r\n"
-    " 21 Zeilen \xFC" "bersetzt. Code Ende bei 000Fh.\r\n"
+    " 21 Zeilen \xFC"
+    "bersetzt. Code Ende bei 000Fh.\r\n"
     " 2 Bit-Variablen:\r\n"
     "\tMerker: 7Fh\r\n"
     "\tFertig: 7Eh\r\n"
@@ -113,10 +114,21 @@ TEST_F(ReportTest, ReportAndListingOfARunWithFindingsOfEveryKind) {
     EXPECT_EQ(readFile("prog.l51"), listing);
 }
 
+TEST_F(ReportTest, StructuresLeftOpenAreCountedInTheReport) {
+    ASSERT_EQ(assembleLines({"IF A=#0", "NOP", "FOR R7=#3", "LOOP", "NOP"}), RunOutcome::Completed);
+    const std::string& report = assembler_->state().reportText;
+    EXPECT_EQ(report.rfind("Warnungen/Fehler:", 0), 0u) << report;
+    for (const char* line : {"\r\n1 offene If-Schleife(n)\r\n", "\r\n1 offene For-Schleife(n)\r\n",
+                             "\r\n1 offene Loop-Schleife(n)\r\n"}) {
+        EXPECT_NE(report.find(line), std::string::npos) << line << report;
+    }
+}
+
 TEST_F(ReportTest, CleanRunShowsOnlyTheStatistic) {
     ASSERT_EQ(assembleLines({"ONLY:", "SJMP ONLY"}), RunOutcome::Completed);
     EXPECT_EQ(assembler_->state().reportText,
-              " 3 Zeilen \xFC" "bersetzt. Code Ende bei 0002h.\r\n 1 Label:\r\n\tONLY: 0000h\r\n");
+              " 3 Zeilen \xFC"
+              "bersetzt. Code Ende bei 0002h.\r\n 1 Label:\r\n\tONLY: 0000h\r\n");
 }
 
 }  // namespace

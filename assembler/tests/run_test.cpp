@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "assembler/tests/assembler_fixture.h"
 #include "assembler/source_file.h"
+#include "assembler/tests/assembler_fixture.h"
 
 #include <filesystem>
 
@@ -35,12 +35,13 @@ TEST_F(RunTest, SixteenBitLineCounterOverflows) {
     EXPECT_EQ(assemble(source), RunOutcome::Completed);
     source += ";\r\n";
     EXPECT_EQ(assemble(source), RunOutcome::Failed);
-    EXPECT_NE(host_.lastBoxText.find("\xDC" "berlauf"), std::string::npos);
+    EXPECT_NE(host_.lastBoxText.find("\xDC"
+                                     "berlauf"),
+              std::string::npos);
 }
 
 TEST_F(RunTest, FailureWritesNoOutputs) {
-    EXPECT_EQ(assembleLines({"NOP", "MOV A,#0-300"}, {true, true, true, true}),
-              RunOutcome::Failed);
+    EXPECT_EQ(assembleLines({"NOP", "MOV A,#0-300"}, {true, true, true, true}), RunOutcome::Failed);
     EXPECT_FALSE(fileExists(folder_ + "prog.h51"));
     EXPECT_FALSE(fileExists(folder_ + "prog.b51"));
 }
@@ -66,14 +67,14 @@ TEST_F(RunTest, ExtensionIsCutOnlyNearTheEnd) {
 }
 
 class AbortingHost : public QuietHost {
-public:
+  public:
     explicit AbortingHost(int afterCalls) : remaining_(afterCalls) {}
     void processPendingEvents() override {
         if (--remaining_ == 0 && assembler) assembler->requestAbort();
     }
     Assembler* assembler = nullptr;
 
-private:
+  private:
     int remaining_;
 };
 
@@ -86,6 +87,19 @@ TEST_F(RunTest, CancelStopsWithoutReportOrOutput) {
     std::string name = folder_ + "prog.a51";
     EXPECT_EQ(assembler.assembleSource(name, {true, true, true, true}), RunOutcome::Aborted);
     EXPECT_EQ(assembler.state().sourceTable.size(), 2u);
+    EXPECT_FALSE(fileExists(folder_ + "prog.h51"));
+}
+
+TEST_F(RunTest, CancelDuringTheSecondPassStopsBeforeReportAndOutputs) {
+    // Four lines read, each after a pending-events call; the fifth call ends the second pass.
+    AbortingHost host(5);
+    Assembler assembler(host, assembler_->settings());
+    host.assembler = &assembler;
+    writeFile("TmpFile.tmp", "#cpu test\r\nLJMP LATER\r\nLATER:\r\nNOP\r\n");
+    std::string name = folder_ + "prog.a51";
+    EXPECT_EQ(assembler.assembleSource(name, {true, true, true, true}), RunOutcome::Aborted);
+    EXPECT_EQ(assembler.state().codeText.at(1).substr(0, 13), "0000\t02\t00\t03");  // healed
+    EXPECT_TRUE(assembler.state().reportText.empty());
     EXPECT_FALSE(fileExists(folder_ + "prog.h51"));
 }
 

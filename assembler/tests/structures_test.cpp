@@ -11,16 +11,18 @@ namespace korvex::testing {
 namespace {
 
 class StructuresTest : public AssemblerFixture {
-protected:
+  protected:
     std::string hexImage(const std::vector<std::string>& lines) {
         EXPECT_EQ(assembleLines(lines), RunOutcome::Completed);
         std::string out;
-        for (char c : image()) out += (out.empty() ? "" : " ") + hexDigits(static_cast<unsigned char>(c), 2);
+        for (char c : image())
+            out += (out.empty() ? "" : " ") + hexDigits(static_cast<unsigned char>(c), 2);
         return out;
     }
     std::vector<int> findings() const {
         std::vector<int> numbers;
-        for (int i = 0; i + rowOffset_ < static_cast<int>(assembler_->state().sourceTable.size()); ++i) {
+        for (int i = 0; i + rowOffset_ < static_cast<int>(assembler_->state().sourceTable.size());
+             ++i) {
             if (markerNumber(i) != 0) numbers.push_back(markerNumber(i));
         }
         return numbers;
@@ -30,8 +32,7 @@ protected:
 TEST_F(StructuresTest, IfElseIfElse) {
     EXPECT_EQ(hexImage({"IF A=#0 THEN", "NOP", "END IF"}), "70 01 00");
     EXPECT_EQ(hexImage({"IF 20h.3", "NOP", "END IF"}), "30 03 01 00");
-    EXPECT_EQ(hexImage({"IF R0=#5 THEN", "NOP", "ELSE", "NOP", "END IF"}),
-              "B8 05 03 00 80 01 00");
+    EXPECT_EQ(hexImage({"IF R0=#5 THEN", "NOP", "ELSE", "NOP", "END IF"}), "B8 05 03 00 80 01 00");
     EXPECT_EQ(hexImage({"IF NOTBIT TR1", "NOP", "ELSEIF BITC THEN", "NOP", "ELSEIF A>#0", "NOP",
                         "END IF"}),
               "20 8E 03 00 80 08 50 03 00 80 03 60 01 00");
@@ -57,8 +58,7 @@ TEST_F(StructuresTest, ExitIfLeavesTheSurroundingIf) {
     EXPECT_EQ(hexImage({"IF A=#0", "IF A>#0", "EXIT IF", "NOP", "END IF", "NOP", "END IF"}),
               "70 06 60 03 80 02 00 00");
     // With the bit form of the exit condition the jump leaves the IF it stands in.
-    EXPECT_EQ(hexImage({"IF A=#0", "IF BIT TR1 THENEXITIF", "NOP", "END IF"}),
-              "70 04 20 8E 01 00");
+    EXPECT_EQ(hexImage({"IF A=#0", "IF BIT TR1 THENEXITIF", "NOP", "END IF"}), "70 04 20 8E 01 00");
     EXPECT_EQ(hexImage({"IF A=#0", "IF R2=#9 THENEXITIF", "NOP", "END IF"}),
               "70 06 BA 09 02 80 01 00");
 }
@@ -68,8 +68,21 @@ TEST_F(StructuresTest, LongThenPartMarksTheIfLine) {
     for (int i = 0; i < 128; ++i) lines.push_back("NOP");
     lines.push_back("END IF");
     hexImage(lines);
-    EXPECT_EQ(row(0).marker, ";>err62 relativer Adressbereich \xFC" "berschritten");
+    EXPECT_EQ(row(0).marker,
+              ";>err62 relativer Adressbereich \xFC"
+              "berschritten");
     EXPECT_EQ(row(129).marker, "");
+}
+
+TEST_F(StructuresTest, ExitJumpOutOfReachIsMarked) {
+    std::vector<std::string> lines = {"LOOP", "EXIT LOOP"};
+    for (int i = 0; i < 130; ++i) lines.push_back("NOP");
+    lines.push_back("END LOOP");
+    hexImage(lines);
+    EXPECT_EQ(row(1).marker,
+              ";>err62 relativer Adressbereich \xFC"
+              "berschritten")
+        << row(1).marker;
 }
 
 TEST_F(StructuresTest, ForAndNext) {

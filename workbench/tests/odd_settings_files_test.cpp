@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <random>
 #include <sstream>
 #include <string>
@@ -11,6 +12,7 @@
 #include <sys/stat.h>
 
 #include "base/program_folder.h"
+#include "base/tests/unprivileged.h"
 #include "workbench/settings_file.h"
 
 namespace korvex {
@@ -66,6 +68,15 @@ TEST(OddSettingsFiles, ThingsThatAreNoPlainFileAreAccessErrors) {
     const SettingsReadResult result = readSettingsFile(folder);
     EXPECT_EQ(result.failure->number(), 75);
     EXPECT_EQ(result.settings, defaultSettings(folder));
+
+    // A file that others may not read is refused, not read as empty.
+    fs::remove(cfg);
+    std::ofstream(cfg) << settingsText(defaultSettings(folder));
+    fs::permissions(cfg, fs::perms::owner_read | fs::perms::owner_write);
+    fs::permissions(folder, fs::perms::all);
+    EXPECT_EQ(korvex::testing::runUnprivileged(
+                  [&] { return readSettingsFile(folder).failure->number(); }),
+              70);
     fs::remove_all(folder);
 }
 
