@@ -79,7 +79,8 @@ void Assistent52::writeInitialisation(ProgramParts& out, const GenerationContext
 
     // "08" and "8" read as 8 and write nothing; "0A" reads as 0 and does.
     if (valNumber(s_.SText2.text) != 8) {
-        line(code, "mov SP, #" + hex2(hexFieldValue(s_.SText2.text) - 1) + "h\t; Stackbeginn");
+        line(code, "mov SP, #" + hex2(std::int64_t{hexFieldValue(s_.SText2.text)} - 1) +
+                       "h\t; Stackbeginn");
     }
 
     if (s_.SCheck1.value != 0) {
@@ -88,7 +89,8 @@ void Assistent52::writeInitialisation(ProgramParts& out, const GenerationContext
         line(code, "loop");
         line(code, "\tmov @r0, a");
         line(code, "\tinc r0");
-        line(code, "until r0 = #" + hexText((hexFieldValue(s_.SText4.text) + 1) % 256) + "h");
+        line(code, "until r0 = #" +
+                       hexText((std::int64_t{hexFieldValue(s_.SText4.text)} + 1) % 256) + "h");
         line(code);
     }
 

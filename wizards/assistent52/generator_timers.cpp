@@ -132,8 +132,10 @@ void Assistent52::writeTimer2(ProgramParts& out, const GenerationContext& contex
     }
 
     const int item = s_.T2Combo1.listIndex;
-    const std::int32_t reload =
-        hexFieldValue(s_.T2Text4.text) + 256 * hexFieldValue(s_.T2Text5.text);
+    // The fields take two digits in the dialog, but a value set otherwise may be
+    // longer: the reload is reckoned as a number, never wrapped.
+    const std::int64_t reload = std::int64_t{hexFieldValue(s_.T2Text4.text)} +
+                                256 * std::int64_t{hexFieldValue(s_.T2Text5.text)};
     const auto rateText = [&](double divisor) {
         const OverflowRate rate = overflowRate(context.fosc, divisor);
         return text8(" Die Überlauffrequenz beträgt ") + str(rate.frequency) +

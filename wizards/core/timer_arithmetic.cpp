@@ -26,7 +26,7 @@ double timer01Divisor(int mode, std::int32_t reload) {
         case 1:
             return 65536;
         case 2:
-            return 256 - reload;
+            return 256.0 - reload;  // a long field text must not wrap
         default:
             return 256;
     }
