@@ -118,6 +118,18 @@ void Assistent52::UOption1Click(int index) {
 }
 
 void Assistent52::UComboClick() {
+    // A No puts both lists on the other timer. Their change events must not ask
+    // again: with both timers busy, No to one question led to the other
+    // question and back, without end (a stack overflow with unanswered
+    // questions on the command line).
+    const auto revertSerialGenerators = [this](int generator) {
+        {
+            GuardHold hold(generationGuard, guard_code::kRevertSerialLists);
+            setListIndex(s_.UCombo1, generator);
+            setListIndex(s_.UCombo2, generator);
+        }
+        if (generationGuard.idle()) regenerateProgram();
+    };
     const auto onTimer = [this](int generator) {
         return s_.UCombo1.listIndex == generator || s_.UCombo2.listIndex == generator;
     };
@@ -127,8 +139,7 @@ void Assistent52::UComboClick() {
                                 text8("Timer 1 wird bereits für andere Zwecke verwendet.\r\n Soll "
                                       "diese Verwendung aufgehoben werden und möchten Sie Timer 1 "
                                       "als Baudratengenerator benutzen?"))) {
-                setListIndex(s_.UCombo1, 1);
-                setListIndex(s_.UCombo2, 1);
+                revertSerialGenerators(1);
                 return;
             }
             GuardHold hold(generationGuard, guard_code::kConflictAnswer);
@@ -139,8 +150,7 @@ void Assistent52::UComboClick() {
                                 text8("Timer 2 wird bereits für andere Zwecke verwendet.\r\n Soll "
                                       "diese Verwendung aufgehoben werden und möchten Sie Timer 2 "
                                       "als Baudratengenerator benutzen?"))) {
-                setListIndex(s_.UCombo1, 0);
-                setListIndex(s_.UCombo2, 0);
+                revertSerialGenerators(0);
                 return;
             }
             GuardHold hold(generationGuard, guard_code::kConflictAnswer);

@@ -19,6 +19,7 @@ inline constexpr std::int16_t kTimer2Use = 7;
 inline constexpr std::int16_t kTimer2Frequency = 8;
 inline constexpr std::int16_t kSerialUse = 9;
 inline constexpr std::int16_t kSerialMode = 10;
+inline constexpr std::int16_t kRevertSerialLists = 11;  // both serial lists put back after a No
 inline constexpr std::int16_t kConflictAnswer = 98;
 inline constexpr std::int16_t kGenerator = 99;
 }  // namespace guard_code

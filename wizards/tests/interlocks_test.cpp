@@ -242,5 +242,23 @@ TEST_F(WizardFixture, ReleasingTimer2RunsTheSerialRulesAgain) {
     EXPECT_TRUE(wizard_.generationGuard.idle());
 }
 
+TEST_F(WizardFixture, NoWithBothTimersBusyAsksOnce) {
+    // Putting the lists back on the other timer must not ask about that one in
+    // turn: with both timers busy the questions went back and forth forever.
+    apply({"T2Check0=1", "UOption1=1"});
+    host_.answers = {true};
+    set("T1Check0", "1");
+    ASSERT_EQ(s().T1Check0.value, 1);
+    ASSERT_EQ(s().T2Check0.value, 1);
+    host_.boxes.clear();
+    set("UCombo1", "1");  // no answer given: No to "Timer 1", both lists go to Timer 2
+    EXPECT_EQ(boxTexts(Kind::Question).size(), 1u);
+    EXPECT_EQ(s().UCombo1.listIndex, 1);
+    EXPECT_EQ(s().UCombo2.listIndex, 1);
+    EXPECT_EQ(s().T1Check0.value, 1);
+    EXPECT_EQ(s().T2Check0.value, 1);
+    EXPECT_TRUE(wizard_.generationGuard.idle());
+}
+
 }  // namespace
 }  // namespace korvex::wizards::testing

@@ -1,0 +1,4 @@
+; Teil
+#PART OF haupt.a51
+	MOV A,#1
+	RET

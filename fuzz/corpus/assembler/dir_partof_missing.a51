@@ -1,0 +1,2 @@
+#part of nirgends.a51
+NOP

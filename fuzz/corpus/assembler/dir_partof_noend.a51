@@ -1,0 +1,2 @@
+NOP
+#PART OF haupt.a51

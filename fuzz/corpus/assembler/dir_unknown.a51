@@ -1,0 +1,5 @@
+#was
+# BYTE X
+#  bit Y
+#
+##

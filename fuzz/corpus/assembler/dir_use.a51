@@ -1,0 +1,6 @@
+#use lcall
+Sub
+#use acall
+Sub
+#use
+Sub: RET

@@ -1,0 +1,5 @@
+#word W
+#byte B
+#word V=30h
+MOV A,W
+#word

@@ -1,0 +1,12 @@
+	ADD A,R3
+	ADD A,30h
+	ADD A,@R0
+	ADD A,#12
+	ADDC A,R7
+	ADDC A,@R1
+	ADDC A,#0FFh
+	SUBB A,#1
+	SUBB A,40h
+	XCH A,R2
+	XCH A,@R1
+	XCH A,B

@@ -1,0 +1,9 @@
+	LCALL Ziel
+	LJMP Ziel
+	JMP Ziel
+	CALL Ziel
+	ACALL Ziel
+	AJMP Ziel
+Ziel: RET
+	LJMP 0FFFFh
+	AJMP 800h

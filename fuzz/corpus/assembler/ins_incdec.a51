@@ -1,0 +1,9 @@
+	INC A
+	INC R0
+	INC 30h
+	INC @R1
+	INC DPTR
+	DEC A
+	DEC R7
+	DEC 7Fh
+	DEC @R0

@@ -1,0 +1,14 @@
+	ANL A,R1
+	ANL A,30h
+	ANL A,@R0
+	ANL A,#0Fh
+	ANL 30h,A
+	ANL 30h,#1
+	ANL C,P1.1
+	ANL C,/P1.2
+	ORL A,#80h
+	ORL P1,#1
+	ORL C,/ACC.0
+	XRL A,R5
+	XRL 40h,#0AAh
+	XRL 40h,A

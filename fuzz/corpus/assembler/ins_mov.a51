@@ -1,0 +1,20 @@
+	MOV A,R0
+	MOV A,30h
+	MOV A,@R1
+	MOV A,#5
+	MOV R3,A
+	MOV R3,30h
+	MOV R3,#7
+	MOV 30h,A
+	MOV 30h,R2
+	MOV 30h,31h
+	MOV 30h,@R0
+	MOV 30h,#9
+	MOV @R0,A
+	MOV @R1,30h
+	MOV @R0,#1
+	MOV C,P1.0
+	MOV P1.1,C
+	MOV DPTR,#1234h
+	MOV DPTR,#Ende
+Ende: NOP

@@ -1,0 +1,5 @@
+	MUL AB
+	DIV AB
+	MUL A
+	DIV AB,R0
+	MUL

@@ -1,0 +1,3 @@
+	NOP : NOP : INC A
+	MOV A,#1: MOV B,#2 : MUL AB
+: : :

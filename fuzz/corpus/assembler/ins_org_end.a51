@@ -1,0 +1,8 @@
+	ORG 100h
+	NOP
+	ORG 80h
+	NOP
+	END
+	ORG 0FFFFh
+	NOP
+	NOP

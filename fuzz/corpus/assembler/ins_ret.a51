@@ -1,0 +1,4 @@
+	NOP
+	RET
+	RETI
+	NOP 1

@@ -1,0 +1,16 @@
+	DA A
+	CLR A
+	CLR C
+	CLR P1.0
+	CLR 20h.3
+	CPL A
+	CPL C
+	CPL TR0
+	RL A
+	RLC A
+	RR A
+	RRC A
+	SWAP A
+	SETB C
+	SETB 07h
+	SETB ACC.7

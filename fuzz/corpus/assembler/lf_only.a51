@@ -1,0 +1,4 @@
+	NOP
+	MOV A,#1
+	IF A=#1 THEN
+	END IF

@@ -1,0 +1,7 @@
+	IF A=#0 THEN
+	ORG 200h
+	END IF
+	LOOP
+	DS
+	ORG 400h
+	END LOOP

@@ -1,0 +1,6 @@
+	IF A=#1 THEN
+	IF A=#2 THEN
+	EXIT IF
+	END IF
+	END IF
+	EXIT IF

@@ -1,0 +1,3 @@
+	IF A=#0 THEN
+	FOR R1=#2
+	LOOP

@@ -1,0 +1,2 @@
+Zähler: NOP ; Überlauf ß
+	DB 'äöü'
