@@ -1,6 +1,6 @@
 #pragma once
 // What a command-line user is told when a run fails on a source that is
-// likely not what the language expects: the failure box of the design says
+// likely not what the language expects: the classic failure box says
 // only "Typen unverträglich".
 
 #include <string>

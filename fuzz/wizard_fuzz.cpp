@@ -4,7 +4,7 @@
 // and the program generated at the end. A refused use (a disabled field, a
 // value the control can't take) is the dialog saying no and the session goes
 // on, and so does a failure of the arithmetic outside the traps, which by
-// design ends only that generation. A crash, a hang, a sanitizer report, any
+// rule ends only that generation. A crash, a hang, a sanitizer report, any
 // other escaping exception, or a generation guard that an action leaves held
 // is a finding.
 //
