@@ -2,6 +2,7 @@
 // changed in the order given, each through the operation of its control as a
 // user's click would run it, and the generated program is printed.
 
+#include <algorithm>
 #include <deque>
 #include <iostream>
 #include <memory>
@@ -15,8 +16,8 @@
 #include "base/text.h"
 #include "cli/run_guard.h"
 #include "cli/terminal_text.h"
-#include "wizards/assistent52/assistent52.h"
 #include "wizards/core/wizard_host.h"
+#include "wizards/wizard_factory.h"
 
 namespace {
 
@@ -212,7 +213,10 @@ int parseArguments(const std::vector<std::string>& args, Options& options) {
         }
     }
     if (options.chip.empty()) return usageError("kein Chip angegeben.");
-    if (options.chip != "52") return usageError("unbekannter Chip " + options.chip + ".");
+    const std::vector<std::string> chips = wizardChips();
+    if (std::find(chips.begin(), chips.end(), options.chip) == chips.end()) {
+        return usageError("unbekannter Chip " + options.chip + ".");
+    }
     return kExitClean;
 }
 
@@ -234,8 +238,7 @@ int runWizard(const std::vector<std::string>& args) {
     if (options.dateGiven) wizardOptions.now = [date = options.date] { return date; };
 
     try {
-        std::unique_ptr<Wizard> wizard =
-            std::make_unique<assistent52::Assistent52>(host, wizardOptions);
+        const std::unique_ptr<Wizard> wizard = makeWizard(options.chip, host, wizardOptions);
         wizard->openWizard();
         for (const Action& action : options.actions) {
             if (action.kind == ActionKind::Click) {

@@ -14,6 +14,13 @@ std::optional<ControlRef> ControlRegistry::find(const std::string& name, int ind
     return std::nullopt;
 }
 
+bool ControlRegistry::holds(const std::string& name) const {
+    for (const auto& [key, ref] : entries_) {
+        if (baseOf(ref).name == name) return true;
+    }
+    return false;
+}
+
 const Control& baseOf(const ControlRef& ref) {
     return std::visit([](auto* c) -> const Control& { return *c; }, ref);
 }

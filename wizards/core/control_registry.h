@@ -28,6 +28,8 @@ class ControlRegistry {
     }
 
     std::optional<ControlRef> find(const std::string& name, int index = -1) const;
+    // Whether a control of this name is registered, alone or as an array.
+    bool holds(const std::string& name) const;
     const std::vector<std::pair<std::string, ControlRef>>& all() const { return entries_; }
 
     static std::string keyOf(const std::string& name, int index);

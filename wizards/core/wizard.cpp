@@ -164,6 +164,30 @@ void Wizard::fireChange(const Control& control) {
     }
 }
 
+void Wizard::checkBinding(const std::string& name) const {
+    if (!registry_.holds(name)) throw std::logic_error("Wizard: kein Steuerelement " + name);
+}
+
+void Wizard::onChange(const std::string& name, Handler handler) {
+    checkBinding(name);
+    change_[name] = std::move(handler);
+}
+
+void Wizard::onLeave(const std::string& name, Handler handler) {
+    checkBinding(name);
+    leave_[name] = std::move(handler);
+}
+
+void Wizard::onClick(const std::string& name, Handler handler) {
+    checkBinding(name);
+    click_[name] = std::move(handler);
+}
+
+void Wizard::onKey(const std::string& name, KeyHandler handler) {
+    checkBinding(name);
+    key_[name] = std::move(handler);
+}
+
 void Wizard::withArithmeticTrap(const std::function<void()>& operation) {
     const auto report = [this](const RuntimeFailure& failure) {
         host_.failure(text8("Fehler Nummer") + std::to_string(failure.number()) +

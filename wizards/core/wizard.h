@@ -92,10 +92,13 @@ class Wizard {
 
     virtual void loadSettings() = 0;
 
-    void onChange(const std::string& name, Handler handler) { change_[name] = std::move(handler); }
-    void onLeave(const std::string& name, Handler handler) { leave_[name] = std::move(handler); }
-    void onClick(const std::string& name, Handler handler) { click_[name] = std::move(handler); }
-    void onKey(const std::string& name, KeyHandler handler) { key_[name] = std::move(handler); }
+    // Binding a handler to a name the record does not hold is a mistake of
+    // the wizard's code: it throws std::logic_error at once instead of the
+    // control silently falling back to plain regeneration.
+    void onChange(const std::string& name, Handler handler);
+    void onLeave(const std::string& name, Handler handler);
+    void onClick(const std::string& name, Handler handler);
+    void onKey(const std::string& name, KeyHandler handler);
 
     // Value changes that fire the control's change operation when the value differs.
     void setCheck(CheckBox& box, int value);
@@ -119,6 +122,8 @@ class Wizard {
     ControlRegistry registry_;
 
   private:
+    void checkBinding(const std::string& name) const;
+
     std::map<std::string, Handler> change_;
     std::map<std::string, Handler> leave_;
     std::map<std::string, Handler> click_;

@@ -8,6 +8,7 @@
 #include "base/failure.h"
 #include "wizards/core/comment_colouring.h"
 #include "wizards/tests/wizard_fixture.h"
+#include "wizards/wizard_factory.h"
 
 namespace korvex::wizards::testing {
 namespace {
@@ -228,6 +229,28 @@ TEST_F(WizardFixture, PreviewIsColouredWithEachGeneration) {
     EXPECT_EQ(ranges[0].length, program().size());
     EXPECT_EQ(program().substr(ranges[1].start, ranges[1].length),
               std::string("; ") + kFixedDate + "\r\n");
+}
+
+// A wizard whose code binds a handler to a control its record lacks.
+class MisboundWizard : public Wizard {
+  public:
+    explicit MisboundWizard(WizardHost& host) : Wizard(host, {}) {
+        onChange("SText9", [](int) {});
+    }
+    std::string windowTitle() const override { return {}; }
+    std::vector<std::string> tabNames() const override { return {}; }
+    void regenerateProgram() override {}
+
+  protected:
+    void loadSettings() override {}
+};
+
+TEST(WizardFactory, ChipsHaveTheirWizardAndATypoInABindingFailsAtOnce) {
+    ScriptedWizardHost host;
+    for (const std::string& chip : wizardChips()) EXPECT_NE(makeWizard(chip, host, {}), nullptr);
+    EXPECT_EQ(makeWizard("52", host, {})->windowTitle(), "Assistent 80C52 / 80C32");
+    EXPECT_EQ(makeWizard("8051x", host, {}), nullptr);
+    EXPECT_THROW(MisboundWizard{host}, std::logic_error);
 }
 
 }  // namespace
