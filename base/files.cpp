@@ -45,6 +45,16 @@ bool writeAll(int fd, std::string_view bytes) {
     return true;
 }
 
+// Writes all bytes, syncs if asked, and closes: the error number of the
+// first step that failed, 0 when the bytes are whole in the file. A full
+// disk may show only at the close, when the last blocks go out.
+int writeAndClose(int fd, std::string_view bytes, bool sync) {
+    int error = 0;
+    if (!writeAll(fd, bytes) || (sync && ::fsync(fd) != 0)) error = errno;
+    if (::close(fd) != 0 && error == 0) error = errno;
+    return error;
+}
+
 std::string linkTarget(const std::string& path) {
     std::error_code ec;
     if (!fs::is_symlink(path, ec)) return path;
@@ -139,15 +149,7 @@ std::string stageFile(const std::string& target, const std::string& shown, std::
     if (::stat(target.c_str(), &old) == 0 && S_ISREG(old.st_mode))
         ::fchmod(fd, old.st_mode & 07777);
 
-    bool done = writeAll(fd, bytes);
-    if (done && durability == Durability::RenameAndSync) done = ::fsync(fd) == 0;
-    int error = done ? 0 : errno;
-    // A full disk may show only here, when the last blocks are written out.
-    if (::close(fd) != 0 && done) {
-        done = false;
-        error = errno;
-    }
-    if (!done) {
+    if (const int error = writeAndClose(fd, bytes, durability == Durability::RenameAndSync)) {
         ::unlink(temporary.c_str());
         raiseForWrite(error, shown);
     }
@@ -160,6 +162,19 @@ void renameOver(const std::string& temporary, const std::string& target, const s
         ::unlink(temporary.c_str());
         raiseForWrite(error, shown);
     }
+}
+
+// A device or a pipe named as output (-o /dev/stdout) is written into, never
+// replaced by a plain file.
+bool isSpecialFile(const std::string& path) {
+    struct stat info {};
+    return ::stat(path.c_str(), &info) == 0 && !S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode);
+}
+
+void writeIntoSpecialFile(const std::string& path, std::string_view bytes) {
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+    if (fd < 0) raiseForWrite(errno, path);
+    if (const int error = writeAndClose(fd, bytes, false)) raiseForWrite(error, path);
 }
 
 }  // namespace
@@ -210,25 +225,6 @@ std::string readWholeFile(const std::string& path) {
     }
     ::close(fd);
     return bytes;
-}
-
-// A device or a pipe named as output (-o /dev/stdout) is written into, never
-// replaced by a plain file.
-static bool isSpecialFile(const std::string& path) {
-    struct stat info {};
-    return ::stat(path.c_str(), &info) == 0 && !S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode);
-}
-
-static void writeIntoSpecialFile(const std::string& path, std::string_view bytes) {
-    const int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
-    if (fd < 0) raiseForWrite(errno, path);
-    bool done = writeAll(fd, bytes);
-    int error = done ? 0 : errno;
-    if (::close(fd) != 0 && done) {
-        done = false;
-        error = errno;
-    }
-    if (!done) raiseForWrite(error, path);
 }
 
 void replaceFileAtomically(const std::string& path, std::string_view bytes, Durability durability) {

@@ -183,17 +183,10 @@ int assemble(const Options& options, std::ostream& out, std::ostream& err) {
 }  // namespace
 
 int runKorvexAsm(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-    return guardedRun(kTool, err, [&] {
-        Options options;
-        if (const int status = parseArguments(args, options, err); status != kExitClean) {
-            return status;
-        }
-        if (options.help) {
-            out << kHelp;
-            return kExitClean;
-        }
-        return assemble(options, out, err);
-    });
+    return runTool<Options>(
+        kTool, kHelp, out, err,
+        [&](Options& options) { return parseArguments(args, options, err); },
+        [&](const Options& options) { return assemble(options, out, err); });
 }
 
 }  // namespace korvex

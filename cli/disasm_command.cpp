@@ -131,17 +131,10 @@ int disassemble(const Options& options, std::ostream& out, std::ostream& err) {
 }  // namespace
 
 int runKorvexDisasm(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-    return guardedRun(kTool, err, [&] {
-        Options options;
-        if (const int status = parseArguments(args, options, err); status != kExitClean) {
-            return status;
-        }
-        if (options.help) {
-            out << kHelp;
-            return kExitClean;
-        }
-        return disassemble(options, out, err);
-    });
+    return runTool<Options>(
+        kTool, kHelp, out, err,
+        [&](Options& options) { return parseArguments(args, options, err); },
+        [&](const Options& options) { return disassemble(options, out, err); });
 }
 
 }  // namespace korvex

@@ -22,6 +22,22 @@ void printFailure(std::ostream& err, const std::string& tool, const RuntimeFailu
 // Runs `body`; an escaping exception becomes the printed failure and exit 2.
 int guardedRun(const std::string& tool, std::ostream& err, const std::function<int()>& body);
 
+// The frame of a tool's run: arguments parsed, the help shown when asked,
+// else the run itself, all inside the guard. `Options` has a `help` flag.
+template <typename Options, typename Parse, typename Run>
+int runTool(const std::string& tool, const char* help, std::ostream& out, std::ostream& err,
+            Parse parse, Run run) {
+    return guardedRun(tool, err, [&] {
+        Options options;
+        if (const int status = parse(options); status != kExitClean) return status;
+        if (options.help) {
+            out << help;
+            return kExitClean;
+        }
+        return run(options);
+    });
+}
+
 // Flushes the process's standard output through to the file or device and
 // tells whether everything reached it (a full disk, a closed pipe).
 bool standardOutputComplete();

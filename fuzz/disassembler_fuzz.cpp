@@ -5,35 +5,15 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 
 #include "assembler/assembler.h"
 #include "assembler/source_file.h"
 #include "disassembler/disassembler.h"
-
-namespace {
-
-// One private folder per process, for the file and the temporary files, so
-// parallel fuzzing jobs don't meet. It goes when the process exits.
-struct ScratchFolder {
-    ScratchFolder() {
-        path = (std::filesystem::temp_directory_path() / "korvex-fuzz-XXXXXX").string();
-        if (mkdtemp(path.data()) == nullptr) std::abort();
-        path += '/';
-    }
-    ~ScratchFolder() {
-        std::error_code ec;
-        std::filesystem::remove_all(path, ec);
-    }
-    std::string path;
-};
-
-}  // namespace
+#include "fuzz/fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const ScratchFolder scratch;
+    static const korvex::fuzz::ScratchFolder scratch;
     const std::string& folder = scratch.path;
     const std::string file = folder + "fuzz.h51";
     korvex::writeWholeFile(file, std::string(reinterpret_cast<const char*>(data), size));
