@@ -15,7 +15,7 @@
 #include "assembler/assembler.h"
 #include "assembler/source_file.h"
 #include "base/text.h"
-#include "bench/source_generator.h"
+#include "source_generator.h"
 
 namespace {
 

@@ -21,7 +21,7 @@
 #include "assembler/compile_source.h"
 #include "base/failure.h"
 #include "base/files.h"
-#include "fuzz/fuzz_support.h"
+#include "fuzz_support.h"
 
 namespace {
 

@@ -27,7 +27,7 @@
 #include "base/files.h"
 #include "cli/asm_command.h"
 #include "cli/disasm_command.h"
-#include "fuzz/fuzz_support.h"
+#include "fuzz_support.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "assembler/assembler.h"
 #include "assembler/source_file.h"
 #include "disassembler/disassembler.h"
-#include "fuzz/fuzz_support.h"
+#include "fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const korvex::fuzz::ScratchFolder scratch;

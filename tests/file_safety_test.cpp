@@ -13,7 +13,7 @@
 #include <unistd.h>
 
 #include "base/program_folder.h"
-#include "tests/support/process.h"
+#include "testing/process.h"
 
 namespace {
 

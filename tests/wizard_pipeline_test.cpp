@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "tests/support/process.h"
+#include "testing/process.h"
 
 namespace {
 

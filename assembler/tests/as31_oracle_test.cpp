@@ -17,7 +17,7 @@
 #include <string>
 #include <vector>
 
-#include "assembler/tests/assembler_fixture.h"
+#include "assembler_fixture.h"
 
 namespace korvex::testing {
 namespace {

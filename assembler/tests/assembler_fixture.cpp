@@ -1,4 +1,4 @@
-#include "assembler/tests/assembler_fixture.h"
+#include "assembler_fixture.h"
 
 #include <filesystem>
 

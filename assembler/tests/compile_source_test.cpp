@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "assembler/compile_source.h"
-#include "assembler/tests/assembler_fixture.h"
+#include "assembler_fixture.h"
 
 namespace korvex::testing {
 namespace {

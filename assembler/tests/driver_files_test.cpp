@@ -9,7 +9,7 @@
 #include <set>
 #include <sstream>
 
-#include "assembler/tests/assembler_fixture.h"
+#include "assembler_fixture.h"
 #include "base/text.h"
 
 namespace korvex::testing {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "assembler/tests/assembler_fixture.h"
+#include "assembler_fixture.h"
 
 namespace korvex::testing {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "assembler/length_check.h"
 #include "assembler/source_file.h"
-#include "assembler/tests/assembler_fixture.h"
+#include "assembler_fixture.h"
 #include "base/cp1252.h"
 #include "base/text.h"
 

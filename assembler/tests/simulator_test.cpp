@@ -5,9 +5,9 @@
 
 #include <map>
 
-#include "assembler/tests/assembler_fixture.h"
+#include "assembler_fixture.h"
 #include "base/text.h"
-#include "tests/support/s51_runner.h"
+#include "testing/s51_runner.h"
 
 namespace korvex::testing {
 namespace {

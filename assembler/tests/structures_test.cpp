@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "assembler/tests/assembler_fixture.h"
+#include "assembler_fixture.h"
 #include "base/text.h"
 
 namespace korvex::testing {

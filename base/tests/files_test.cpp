@@ -16,7 +16,7 @@
 #include "base/failure.h"
 #include "base/files.h"
 #include "base/program_folder.h"
-#include "base/tests/unprivileged.h"
+#include "testing/unprivileged.h"
 
 namespace korvex {
 namespace {

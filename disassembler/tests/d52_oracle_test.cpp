@@ -14,7 +14,7 @@
 #include "assembler/source_file.h"
 #include "base/text.h"
 #include "disassembler/instruction_forms.h"
-#include "disassembler/tests/disassembler_fixture.h"
+#include "disassembler_fixture.h"
 
 namespace korvex::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "disassembler/tests/disassembler_fixture.h"
+#include "disassembler_fixture.h"
 
 #include <filesystem>
 

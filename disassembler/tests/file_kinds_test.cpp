@@ -7,7 +7,7 @@
 #include "base/failure.h"
 #include "base/text.h"
 #include "disassembler/code_rows.h"
-#include "disassembler/tests/disassembler_fixture.h"
+#include "disassembler_fixture.h"
 
 namespace korvex::testing {
 namespace {

@@ -1,7 +1,7 @@
 // The label pass: which targets get a label, and how the text looks.
 
 #include "assembler/source_file.h"
-#include "disassembler/tests/disassembler_fixture.h"
+#include "disassembler_fixture.h"
 
 namespace korvex::testing {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "base/cp1252.h"
 #include "disassembler/operand_names.h"
-#include "disassembler/tests/disassembler_fixture.h"
+#include "disassembler_fixture.h"
 
 namespace korvex::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/support/s51_runner.h"
+#include "testing/s51_runner.h"
 
 #include <filesystem>
 #include <fstream>
@@ -7,7 +7,7 @@
 #include "base/cp1252.h"
 #include "base/program_folder.h"
 #include "base/text.h"
-#include "tests/support/process.h"
+#include "testing/process.h"
 
 namespace korvex::testing {
 namespace {

@@ -6,7 +6,7 @@
 #include "base/cp1252.h"
 #include "base/failure.h"
 #include "wizards/core/timer_arithmetic.h"
-#include "wizards/tests/wizard_fixture.h"
+#include "wizard_fixture.h"
 
 namespace korvex::wizards {
 namespace {

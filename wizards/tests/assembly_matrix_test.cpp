@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "base/cp1252.h"
-#include "wizards/tests/program_assembly.h"
-#include "wizards/tests/wizard_fixture.h"
+#include "program_assembly.h"
+#include "wizard_fixture.h"
 
 namespace korvex::wizards::testing {
 namespace {

@@ -7,7 +7,7 @@
 #include "base/cp1252.h"
 #include "base/failure.h"
 #include "wizards/core/comment_colouring.h"
-#include "wizards/tests/wizard_fixture.h"
+#include "wizard_fixture.h"
 #include "wizards/wizard_factory.h"
 
 namespace korvex::wizards::testing {

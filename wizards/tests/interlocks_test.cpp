@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/cp1252.h"
-#include "wizards/tests/wizard_fixture.h"
+#include "wizard_fixture.h"
 
 namespace korvex::wizards::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "wizards/tests/program_assembly.h"
+#include "program_assembly.h"
 
 #include <filesystem>
 

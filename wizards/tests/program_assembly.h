@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/s51_runner.h"
+#include "testing/s51_runner.h"
 
 namespace korvex::wizards::testing {
 

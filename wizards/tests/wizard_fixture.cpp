@@ -1,4 +1,4 @@
-#include "wizards/tests/wizard_fixture.h"
+#include "wizard_fixture.h"
 
 #include "base/cp1252.h"
 #include "base/text.h"

@@ -12,7 +12,7 @@
 #include <sys/stat.h>
 
 #include "base/program_folder.h"
-#include "base/tests/unprivileged.h"
+#include "testing/unprivileged.h"
 #include "workbench/settings_file.h"
 
 namespace korvex {

@@ -12,7 +12,7 @@
 #include "base/program_folder.h"
 #include "workbench/settings_file.h"
 #include "workbench/settings_store.h"
-#include "workbench/tests/scripted_host.h"
+#include "scripted_host.h"
 
 namespace korvex {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "base/program_folder.h"
-#include "tests/support/process.h"
+#include "testing/process.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "tests/support/process.h"
+#include "testing/process.h"
 
 namespace {
 
