@@ -24,7 +24,7 @@ int findInList(const std::string& key, const std::vector<std::string>& list) {
     return -1;
 }
 
-RunOutcome Assembler::assembleSource(std::string& sourceName, OutputSwitches switches) {
+RunOutcome Assembler::assembleSource(const std::string& sourceName, OutputSwitches switches) {
     try {
         return runUntrapped(sourceName, switches);
     } catch (...) {
@@ -35,9 +35,10 @@ RunOutcome Assembler::assembleSource(std::string& sourceName, OutputSwitches swi
     }
 }
 
-RunOutcome Assembler::runUntrapped(std::string& sourceName, OutputSwitches switches) {
+RunOutcome Assembler::runUntrapped(const std::string& sourceName, OutputSwitches switches) {
     resetRun();
     state_.sourceName = sourceName;
+    state_.sourceFolder = sourceName.substr(0, sourceName.rfind('/') + 1);
     if (!firstPass()) return RunOutcome::Aborted;
     const std::int32_t endOfCode = state_.codeAddress;
     if (!secondPassOver()) return RunOutcome::Aborted;
@@ -163,24 +164,22 @@ bool Assembler::secondPassOver() {
     return true;
 }
 
-void Assembler::writeOutputs(std::string& sourceName, OutputSwitches switches,
+void Assembler::writeOutputs(const std::string& sourceName, OutputSwitches switches,
                              std::int32_t endOfCode) {
     // Paths are the file system's (UTF-8); the extensions are settings text.
-    const std::string originalName = sourceName;
     // The extension is cut only when its dot stands among the last four characters.
     const std::size_t searchFrom = sourceName.size() >= 4 ? sourceName.size() - 4 : 0;
-    const std::size_t dot = sourceName.find('.', searchFrom);
-    if (dot != std::string::npos) sourceName.erase(dot);
+    const std::string stem = sourceName.substr(0, sourceName.find('.', searchFrom));
 
     buildReport(endOfCode);
     host_.setDialogText(state_.reportText);
-    const std::string base = sourceName + ".";
+    const std::string base = stem + ".";
     // All outputs are made first and take their names together, so that a
     // failure leaves the old set whole rather than new files beside old ones.
     FileSetWriter outputs;
     const auto add = [&](const std::string& extension, const std::string& bytes) {
         const std::string path = base + toUtf8(extension);
-        refuseOverwritingSource(path, originalName);
+        refuseOverwritingSource(path, sourceName);
         outputs.add(path, bytes);
     };
     if (switches.listing) add(settings_.listingExtension, listingText());

@@ -1,44 +1,57 @@
-// readCpuDriver: a controller's vectors, registers and named bits from its
-// ".cpu" file. The counters it sets outlive the run on purpose.
+// readCpuDriver: "#cpu" lays a controller's driver over the run tables. The
+// counters it sets outlive the run on purpose; a failed reading leaves in the
+// tables what came before the failure, and the run goes on with finding 199.
 
 #include "assembler/assembler.h"
-#include "assembler/source_file.h"
-#include "base/cp1252.h"
+#include "assembler/cpu_driver.h"
 #include "base/text.h"
 
 namespace korvex {
 namespace {
 
-enum class Section { None, Vector, Sfr, Bit };
-
-// Hexadecimal text read the classic way: up to four digits make a 16-bit
-// value (8000h and above turn negative), up to eight a 32-bit one.
-std::int32_t classicHexValue(std::string_view text) {
-    std::uint64_t value = 0;
-    std::size_t digits = 0;
-    for (char c : text) {
-        int digit = -1;
-        if (c >= '0' && c <= '9') digit = c - '0';
-        if (c >= 'A' && c <= 'F') digit = c - 'A' + 10;
-        if (c >= 'a' && c <= 'f') digit = c - 'a' + 10;
-        if (digit < 0) break;
-        value = value * 16 + static_cast<std::uint64_t>(digit);
-        if (++digits > 8) raise(FailureNumber::Overflow);
-    }
-    if (digits <= 4) return static_cast<std::int16_t>(static_cast<std::uint16_t>(value));
-    return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
+// The rows of a driver section take the table's first rows: the table is cut
+// to one row first and grown again, so only row 0 keeps what the driver does
+// not write (the last column), as when the rows were written one by one.
+template <typename Table>
+void startTableWith(Table& table, std::size_t rows) {
+    if (rows == 0) return;
+    table.growTo(0);
+    table.growTo(static_cast<int>(rows) - 1);
 }
 
-std::string cleanDriverLine(std::string line) {
-    for (char& c : line) {
-        if (c == '\t') c = ' ';
+void layNames(TextTable<3>& table, const std::vector<DriverName>& names) {
+    startTableWith(table, names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const int row = static_cast<int>(i);
+        table.set(row, 0, names[i].name);
+        table.set(row, 1, names[i].address);
+        table.set(row, 2, "1");
     }
-    const std::size_t comment = line.find(';');
-    if (comment != std::string::npos) line.erase(comment);
-    return trimBlanks(line);
+}
+
+void layNames(TextTable<4>& table, const std::vector<DriverName>& names) {
+    startTableWith(table, names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const int row = static_cast<int>(i);
+        table.set(row, 0, names[i].name);
+        table.set(row, 1, names[i].address);
+        table.set(row, 2, "1");
+    }
 }
 
 }  // namespace
+
+void Assembler::keepDriver(const CpuDriver& read) {
+    if (!read.vectors.empty()) driver_.vectors = read.vectors;
+    if (!read.sfrs.empty()) driver_.sfrs = read.sfrs;
+    if (!read.bits.empty()) driver_.bits = read.bits;
+    if (read.vectorHeader) driver_.vectorCount = read.vectorCount;
+    if (read.sfrHeader) driver_.sfrCount = read.sfrCount;
+    if (read.bitHeader) driver_.bitCount = read.bitCount;
+    driver_.vectorHeader = driver_.vectorHeader || read.vectorHeader;
+    driver_.sfrHeader = driver_.sfrHeader || read.sfrHeader;
+    driver_.bitHeader = driver_.bitHeader || read.bitHeader;
+}
 
 void Assembler::readCpuDriver(const std::string& head, const std::string& tail) {
     const std::string joined = head + tail;
@@ -46,74 +59,30 @@ void Assembler::readCpuDriver(const std::string& head, const std::string& tail) 
                            ? joined.substr(std::min<std::size_t>(4, joined.size()))
                            : joined.substr(std::min<std::size_t>(3, joined.size()));
     name = removeAll(name, '\'');
-    std::string path = nativePath(name);
-    if (name.find('\\') == std::string::npos && name.find('/') == std::string::npos) {
-        path = settings_.programFolder + path;
+    const DriverReading reading =
+        readCpuDriverFile(cpuDriverPath(name, settings_.programFolder));
+    const CpuDriver& read = reading.driver;
+
+    auto& labels = state_.labelTable;
+    startTableWith(labels, read.vectors.size());
+    for (std::size_t i = 0; i < read.vectors.size(); ++i) {
+        const int row = static_cast<int>(i);
+        labels.set(row, 0, read.vectors[i].name);
+        if (!read.vectors[i].address) break;
+        labels.set(row, 1, std::to_string(*read.vectors[i].address));
+        labels.set(row, 2, "1");
     }
-    path += ".cpu";
-    try {
-        SourceFile file = SourceFile::open(findFileIgnoringCase(path));
-        Section section = Section::None;
-        while (!file.atEnd()) {
-            const std::string line = cleanDriverLine(file.readLine());
-            if (line.empty()) continue;
-            if (line == "VECTOR" || line == "SFR" || line == "BIT") {
-                section = line == "VECTOR" ? Section::Vector
-                          : line == "SFR"  ? Section::Sfr
-                                           : Section::Bit;
-                if (section == Section::Vector) state_.vectorCount = 0;
-                if (section == Section::Sfr) state_.sfrCount = 0;
-                if (section == Section::Bit) state_.bitCount = 0;
-                continue;
-            }
-            switch (section) {
-                case Section::Vector: {
-                    const std::size_t blank = line.find(' ');
-                    if (blank == std::string::npos) raise(FailureNumber::InvalidCall);
-                    auto& table = state_.labelTable;
-                    const int row = state_.vectorCount;
-                    table.growTo(row);
-                    table.set(row, 0, trimBlanks(line.substr(blank)));
-                    table.set(row, 1, std::to_string(classicHexValue(line.substr(0, blank))));
-                    table.set(row, 2, "1");
-                    state_.vectorCount = checkedAdd(state_.vectorCount, 1);
-                    break;
-                }
-                case Section::Sfr:
-                case Section::Bit: {
-                    // Fixed layout: two address digits, a separator, the name.
-                    const bool isSfr = section == Section::Sfr;
-                    Int16& count = isSfr ? state_.sfrCount : state_.bitCount;
-                    const int row = count;
-                    const std::string rowName = line.size() > 3 ? trimBlanks(line.substr(3)) : "";
-                    const std::string address = line.substr(0, 2);
-                    if (isSfr) {
-                        state_.sfrTable.growTo(row);
-                        state_.sfrTable.set(row, 0, rowName);
-                        state_.sfrTable.set(row, 1, address);
-                        state_.sfrTable.set(row, 2, "1");
-                    } else {
-                        state_.bitTable.growTo(row);
-                        state_.bitTable.set(row, 0, rowName);
-                        state_.bitTable.set(row, 1, address);
-                        state_.bitTable.set(row, 2, "1");
-                    }
-                    ++count;
-                    break;
-                }
-                case Section::None:
-                    break;
-            }
-        }
-        state_.firstUserBit = state_.bitTable.lastIndex();
-    } catch (...) {
-        const RuntimeFailure failure = currentFailure();
-        host_.messageBox("Korvex",
-                         "Fehler " + decimalText(failure.number(), true) + ": " +
-                             failure.description() + "." + std::string(kCrLf) + path,
-                         MessageButtons::Ok, MessageIcon::Critical);
+    layNames(state_.sfrTable, read.sfrs);
+    layNames(state_.bitTable, read.bits);
+    keepDriver(read);
+
+    if (reading.failure) {
+        host_.messageBox("Korvex", driverFailureText(reading), MessageButtons::Ok,
+                         MessageIcon::Critical);
         state_.errorNumber = 199;
+        return;
     }
+    state_.firstUserBit = state_.bitTable.lastIndex();
 }
 
 }  // namespace korvex

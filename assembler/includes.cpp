@@ -37,7 +37,7 @@ void Assembler::openInclude(const std::string& text) {
     // and listed as the source names it, even where a file of another case
     // answers on disk.
     const std::string written = removeAll(trimLeftBlanks(text.substr(9)), '\'');
-    const std::string named = resolveIncludePath(toUtf8(written), settings_.sourceFolder);
+    const std::string named = resolveIncludePath(toUtf8(written), state_.sourceFolder);
     const std::string shown = fromUtf8(named);
     const std::string path = findFileIgnoringCase(named);
     if (!fileExists(path)) {

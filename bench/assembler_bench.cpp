@@ -32,7 +32,7 @@ public:
         folder_ += '/';
         AssemblerSettings settings;
         settings.programFolder = KORVEX_DRIVER_FOLDER;
-        settings.temporaryFolder = settings.sourceFolder = folder_;
+        settings.temporaryFolder = folder_;
         assembler_.emplace(host_, settings);
         writeWholeFile(folder_ + "TmpFile.tmp", structured ? bench::generateStructuredSource(lines)
                                                           : bench::generateSource(lines));

@@ -56,14 +56,11 @@ class DisassemblyRun {
         folder_ = (std::filesystem::temp_directory_path() / "korvex-bench-XXXXXX").string();
         if (mkdtemp(folder_.data()) == nullptr) std::abort();
         folder_ += '/';
-        AssemblerSettings settings;
-        settings.programFolder = KORVEX_DRIVER_FOLDER;
-        settings.temporaryFolder = settings.sourceFolder = folder_;
-        assembler_.emplace(host_, settings);
         DisassemblerSettings disassemblerSettings;
+        disassemblerSettings.programFolder = KORVEX_DRIVER_FOLDER;
         disassemblerSettings.controllerName = "8032";
         disassemblerSettings.temporaryFolder = folder_;
-        disassembler_.emplace(host_, *assembler_, disassemblerSettings);
+        disassembler_.emplace(host_, disassemblerSettings);
         const std::string bytes = image();
         writeWholeFile(folder_ + "image.bin", bytes);
         writeWholeFile(folder_ + "first64k.bin", bytes.substr(0, 65536));
@@ -87,7 +84,6 @@ class DisassemblyRun {
   private:
     std::string folder_;
     QuietHost host_;
-    std::optional<Assembler> assembler_;
     std::optional<Disassembler> disassembler_;
 };
 

@@ -90,13 +90,12 @@ int parseArguments(const std::vector<std::string>& args, Options& options, std::
 }
 
 int disassemble(const Options& options, std::ostream& out, std::ostream& err) {
-    AssemblerSettings assemblerSettings;
-    assemblerSettings.programFolder =
+    DisassemblerSettings settings;
+    settings.programFolder =
         resolveProgramFolder(processProgramFolderSources(options.programFolder));
     // The controller and the source extension chosen in the workbench; a
     // missing or broken korvex.cfg leaves the defaults, without a question.
-    const Settings configured = readSettingsFile(assemblerSettings.programFolder).settings;
-    DisassemblerSettings settings;
+    const Settings configured = readSettingsFile(settings.programFolder).settings;
     settings.controllerName =
         options.controller.empty() ? configured.ControllerName : fromUtf8(options.controller);
     settings.sourceExtension = configured.sourceExtension;
@@ -107,7 +106,6 @@ int disassemble(const Options& options, std::ostream& out, std::ostream& err) {
         return kExitFailure;
     }
     settings.temporaryFolder = temporary.path();
-    assemblerSettings.temporaryFolder = settings.temporaryFolder;
 
     // The chosen file as a file dialog gives it: with its full path.
     std::error_code ec;
@@ -115,8 +113,7 @@ int disassemble(const Options& options, std::ostream& out, std::ostream& err) {
     const std::string inputPath = ec ? options.input : input.string();
 
     CliHost host(out, err);
-    Assembler assembler(host, assemblerSettings);
-    Disassembler disassembler(host, assembler, settings);
+    Disassembler disassembler(host, settings);
     const DisassemblyResult result = disassembler.disassembleFile(inputPath, options.dialog);
     if (result.outcome != DisassemblyOutcome::Completed || !result.window) return kExitFailure;
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "assembler/cpu_driver.h"
 #include "assembler/source_file.h"
 #include "base/cp1252.h"
 #include "base/failure.h"
@@ -51,8 +52,8 @@ std::string disassemblyCaption(const std::string& fileName, const std::string& s
     return "Disassembling " + stem + "." + sourceExtension;
 }
 
-Disassembler::Disassembler(Host& host, Assembler& assembler, DisassemblerSettings settings)
-    : host_(host), assembler_(assembler), settings_(std::move(settings)) {}
+Disassembler::Disassembler(Host& host, DisassemblerSettings settings)
+    : host_(host), settings_(std::move(settings)) {}
 
 DisassemblyResult Disassembler::disassembleFile(const std::string& path,
                                                 const DisassemblerOptions& options,
@@ -75,10 +76,14 @@ DisassemblyResult Disassembler::disassembleFile(const std::string& path,
 
 void Disassembler::run(const std::string& path, const DisassemblerOptions& options,
                        DisassemblyMonitor& monitor, DisassemblyResult& result) {
-    RunState& state = assembler_.state();
-    state.errorNumber = 0;
-    assembler_.readCpuDriver("CPU", settings_.controllerName);
-    if (state.errorNumber == 199) return;
+    // The driver of the configured controller, read afresh for each run.
+    const DriverReading driver = readCpuDriverFile(
+        cpuDriverPath(removeAll(settings_.controllerName, '\''), settings_.programFolder));
+    if (driver.failure) {
+        host_.messageBox(kProgramTitle, driverFailureText(driver), MessageButtons::Ok,
+                         MessageIcon::Critical);
+        return;
+    }
     if (path.empty()) return;
 
     const std::string name = fromUtf8(path);
@@ -130,7 +135,7 @@ void Disassembler::run(const std::string& path, const DisassemblerOptions& optio
     }
     in.close();
 
-    const OperandNames names(state.sfrTable, state.bitTable);
+    const OperandNames names(driver.driver);
     Sweep sweep;
     startSweep(sweep, name, settings_.controllerName);
     sweepRows(rows, names, sweep, [&monitor](int percent) { monitor.progress(percent); });

@@ -5,18 +5,16 @@
 namespace korvex {
 namespace {
 
-template <std::size_t Columns>
-int firstRowAt(const TextTable<Columns>& table, const std::string& address) {
-    for (int i = 0; i < table.size(); ++i) {
-        if (table.at(i, 1) == address) return i;
+const DriverName* firstAt(const std::vector<DriverName>& names, const std::string& address) {
+    for (const DriverName& name : names) {
+        if (name.address == address) return &name;
     }
-    return -1;
+    return nullptr;
 }
 
 }  // namespace
 
-OperandNames::OperandNames(const TextTable<3>& sfrTable, const TextTable<4>& bitTable)
-    : sfrTable_(sfrTable), bitTable_(bitTable) {
+OperandNames::OperandNames(const CpuDriver& driver) : driver_(driver) {
     std::string comment;
     for (int value = 0; value < 256; ++value) {
         auto& direct = direct_[static_cast<std::size_t>(value)];
@@ -31,9 +29,8 @@ OperandNames::OperandNames(const TextTable<3>& sfrTable, const TextTable<4>& bit
 }
 
 void OperandNames::directName(std::string& hex, std::string& comment) const {
-    const int row = firstRowAt(sfrTable_, hex);
-    if (row >= 0) {
-        hex = sfrTable_.at(row, 0);
+    if (const DriverName* sfr = firstAt(driver_.sfrs, hex)) {
+        hex = sfr->name;
         return;
     }
     comment = "\t; " + decimalText(parseHexPrefix(hex)) + "d";
@@ -41,9 +38,8 @@ void OperandNames::directName(std::string& hex, std::string& comment) const {
 }
 
 void OperandNames::bitName(std::string& hex) const {
-    const int named = firstRowAt(bitTable_, hex);
-    if (named >= 0) {
-        hex = bitTable_.at(named, 0);
+    if (const DriverName* named = firstAt(driver_.bits, hex)) {
+        hex = named->name;
         return;
     }
     const std::int64_t address = parseHexPrefix(hex);
@@ -53,9 +49,8 @@ void OperandNames::bitName(std::string& hex) const {
         hex = hexDigits(32 + base / 8) + "h." + bitNumber;
         return;
     }
-    const int sfr = firstRowAt(sfrTable_, hexDigits(base, 2));
-    if (sfr >= 0) {
-        hex = sfrTable_.at(sfr, 0) + "." + bitNumber;
+    if (const DriverName* sfr = firstAt(driver_.sfrs, hexDigits(base, 2))) {
+        hex = sfr->name + "." + bitNumber;
         return;
     }
     hex += 'h';

@@ -90,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     korvex::AssemblerSettings settings;
     settings.programFolder = driverFolder;
-    settings.temporaryFolder = settings.sourceFolder = folder;
+    settings.temporaryFolder = folder;
     settings.today = korvex::CalendarDate{1, 1, 2024};  // the same listing on every day
     korvex::writeWholeFile(folder + "TmpFile.tmp", compiled->text);
     korvex::Assembler assembler(host, settings);

@@ -19,14 +19,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     korvex::writeWholeFile(file, std::string(reinterpret_cast<const char*>(data), size));
 
     korvex::QuietHost host;
-    korvex::AssemblerSettings assemblerSettings;
-    assemblerSettings.programFolder = KORVEX_DRIVER_FOLDER;  // the shipped drivers
-    assemblerSettings.temporaryFolder = assemblerSettings.sourceFolder = folder;
-    korvex::Assembler assembler(host, assemblerSettings);
     korvex::DisassemblerSettings settings;
+    settings.programFolder = KORVEX_DRIVER_FOLDER;  // the shipped drivers
     settings.controllerName = "80C517";  // many names, some of them hexadecimal-looking
     settings.temporaryFolder = folder;
-    korvex::Disassembler disassembler(host, assembler, settings);
+    korvex::Disassembler disassembler(host, settings);
 
     const std::uint8_t last = size > 0 ? data[size - 1] : 0;
     const korvex::DisassemblerOptions options{(last & 1) != 0, (last & 2) != 0};

@@ -1,7 +1,5 @@
 #include "workbench/compile_command.h"
 
-#include <filesystem>
-
 #include "assembler/length_check.h"
 #include "assembler/source_places.h"
 #include "base/files.h"
@@ -45,8 +43,6 @@ CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& se
 
     AssemblerSettings& run = assembler.settings();
     run.temporaryFolder = request.temporaryFolder;
-    run.sourceFolder =
-        withTrailingSlash(std::filesystem::path(result.sourceName).parent_path().string());
     run.listingExtension = settings.listingExtension;
     run.binaryExtension = settings.binaryExtension;
     run.hexExtension = settings.hexExtension;
@@ -60,8 +56,7 @@ CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& se
         result.status = CompileStatus::Failed;
         return result;
     }
-    std::string sourceName = result.sourceName;
-    switch (assembler.assembleSource(sourceName, request.switches)) {
+    switch (assembler.assembleSource(result.sourceName, request.switches)) {
         case RunOutcome::Aborted:
             result.status = CompileStatus::Aborted;
             return result;

@@ -21,7 +21,6 @@ void AssemblerFixture::SetUp() {
     AssemblerSettings settings;
     settings.programFolder = folder_;
     settings.temporaryFolder = folder_;
-    settings.sourceFolder = folder_;
     assembler_ = std::make_unique<Assembler>(host_, settings);
     writeFile("test.cpu", kTestDriver);
 }

@@ -9,6 +9,24 @@
 #include "assembler/assembler.h"
 #include "base/host.h"
 
+namespace korvex {
+
+// The tests' seam into the assembler: the evaluator, and the run state that a
+// single routine needs set up.
+class AssemblerProbe {
+  public:
+    explicit AssemblerProbe(Assembler& assembler) : assembler_(assembler) {}
+    RunState& state() { return assembler_.state_; }
+    void evaluateExpression(std::string& text, std::int32_t& value, bool& found) {
+        assembler_.evaluateExpression(text, value, found);
+    }
+
+  private:
+    Assembler& assembler_;
+};
+
+}  // namespace korvex
+
 namespace korvex::testing {
 
 // A small driver that every test source reads first: a run needs at least one
@@ -44,6 +62,7 @@ protected:
     int rowOffset_ = 0;
     QuietHost host_;
     std::unique_ptr<Assembler> assembler_;
+    AssemblerProbe probe() { return AssemblerProbe(*assembler_); }
 };
 
 }  // namespace korvex::testing

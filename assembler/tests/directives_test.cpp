@@ -18,8 +18,8 @@ TEST_F(DirectivesTest, DriverFormsAndNames) {
         EXPECT_EQ(code(1), "0000\tD2\t8E") << form;
         EXPECT_EQ(code(2), "0002\tE5\t90") << form;
     }
-    EXPECT_EQ(assembler_->state().vectorCount, 3);
-    EXPECT_EQ(assembler_->state().sfrCount, 7);
+    EXPECT_EQ(assembler_->cpuDriver().vectorCount, 3);
+    EXPECT_EQ(assembler_->cpuDriver().sfrCount, 7);
     EXPECT_EQ(assembler_->state().firstUserBit, 2);
 }
 

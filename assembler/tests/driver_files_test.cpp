@@ -79,7 +79,7 @@ TEST_F(DriverFilesTest, EveryShippedDriverIsSound) {
         ASSERT_EQ(assemble("#cpu " + chip + "\r\n"), RunOutcome::Completed);
         EXPECT_EQ(host_.boxCount, 0);
         const RunState& state = assembler_->state();
-        ASSERT_GT(state.vectorCount, 0);
+        ASSERT_GT(assembler_->cpuDriver().vectorCount, 0);
         EXPECT_EQ(state.labelTable.at(0, 1), "0");
         EXPECT_EQ(state.labelTable.at(0, 0), "RESET");
 
@@ -104,7 +104,7 @@ TEST_F(DriverFilesTest, EveryShippedDriverIsSound) {
             }
         }
         std::set<std::string> vectors;
-        for (int i = 0; i < state.vectorCount; ++i) {
+        for (int i = 0; i < assembler_->cpuDriver().vectorCount; ++i) {
             EXPECT_TRUE(vectors.insert(state.labelTable.at(i, 0)).second);
             EXPECT_LT(parseDecimal(state.labelTable.at(i, 1)), 0x8000);
         }
@@ -145,6 +145,36 @@ TEST_F(DriverFilesTest, VectorsOfTheChipsOwnInterruptsStandWhereTheDatasheetsPut
         ASSERT_GE(row, 0);
         EXPECT_EQ(parseDecimal(state.labelTable.at(row, 1)), wanted.address);
     }
+}
+
+// A driver is read as the classic reader wrote its tables: a section header
+// restarts its kind, and a failure keeps what came before it.
+TEST_F(DriverFilesTest, ReadingKeepsTheLastSectionAndWhatCameBeforeAFailure) {
+    writeFile("zwei.cpu", "VECTOR\r\n0000 A\r\n0003 B\r\nSFR\r\n81 SP\r\nVECTOR\r\n0010 C\r\n"
+                          "VECTOR\r\nBIT\r\n");
+    DriverReading reading = readCpuDriverFile(cpuDriverPath("zwei", folder_));
+    ASSERT_FALSE(reading.failure);
+    ASSERT_EQ(reading.driver.vectors.size(), 1u);
+    EXPECT_EQ(reading.driver.vectors[0].name, "C");
+    EXPECT_EQ(reading.driver.vectorCount, 0);  // the last header had no lines
+    EXPECT_TRUE(reading.driver.bitHeader);
+    EXPECT_TRUE(reading.driver.bits.empty());
+
+    writeFile("kaputt.cpu", "VECTOR\r\n0000 RESET\r\n123456789 ZU_LANG\r\n0003 NIE\r\n");
+    reading = readCpuDriverFile(cpuDriverPath("kaputt", folder_));
+    ASSERT_TRUE(reading.failure);
+    EXPECT_EQ(reading.failure->number(), 6);
+    ASSERT_EQ(reading.driver.vectors.size(), 2u);
+    EXPECT_FALSE(reading.driver.vectors[1].address);
+    EXPECT_EQ(reading.driver.vectorCount, 1);
+    EXPECT_EQ(driverFailureText(reading).substr(0, 11), "Fehler  6: ");  // the classic Str$ blank
+
+    // In a run the box tells the failure and the run goes on with the names
+    // read before it: RESET at 0, and the name whose address failed, at 0 too.
+    assembler_->settings().programFolder = folder_;
+    ASSERT_EQ(assemble("#cpu kaputt\r\nljmp RESET\r\nljmp ZU_LANG\r\n"), RunOutcome::Completed);
+    EXPECT_EQ(host_.boxCount, 1);
+    EXPECT_EQ(image(), std::string("\x02\x00\x00\x02\x00\x00", 6));
 }
 
 }  // namespace

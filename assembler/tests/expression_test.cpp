@@ -16,11 +16,11 @@ protected:
         int error;
     };
     Result evaluate(std::string text, std::int32_t context = kValueContext) {
-        auto& state = assembler_->state();
+        auto& state = probe().state();
         state.errorNumber = 0;
         std::int32_t value = context;
         bool found = false;
-        assembler_->evaluateExpression(text, value, found);
+        probe().evaluateExpression(text, value, found);
         return {value, found, state.errorNumber};
     }
     std::int32_t valueOf(const std::string& text, std::int32_t context = kValueContext) {
@@ -84,7 +84,7 @@ TEST_F(ExpressionTest, BinaryLiteralAddsToTheContextValue) {
 }
 
 TEST_F(ExpressionTest, LowHighAndRegisterNames) {
-    auto& sfr = assembler_->state().sfrTable;
+    auto& sfr = probe().state().sfrTable;
     sfr.set(0, 0, "ACC");
     sfr.set(0, 1, "E0");
     const int p1 = sfr.appendRow();
@@ -101,14 +101,14 @@ TEST_F(ExpressionTest, LowHighAndRegisterNames) {
 }
 
 TEST_F(ExpressionTest, HierIsTheStatementAddress) {
-    assembler_->state().codeAddress = 0;
+    probe().state().codeAddress = 0;
     EXPECT_EQ(valueOf("HIER"), 0);
-    assembler_->state().codeAddress = 0x120;
+    probe().state().codeAddress = 0x120;
     EXPECT_EQ(valueOf("HIER+5"), 0x125);
 }
 
 TEST_F(ExpressionTest, ContextsChooseTheTables) {
-    auto& state = assembler_->state();
+    auto& state = probe().state();
     addRow(state.byteTable, "COUNT", "48");
     addRow(state.wordTable, "PTR", "4660");
     addRow(state.labelTable, "COUNT", "256");
@@ -125,7 +125,7 @@ TEST_F(ExpressionTest, ContextsChooseTheTables) {
 }
 
 TEST_F(ExpressionTest, NumbersShadowNames) {
-    auto& state = assembler_->state();
+    auto& state = probe().state();
     addRow(state.labelTable, "BEEFH", "1");
     EXPECT_EQ(valueOf("BEEFH"), 0xBEEF);
 }
@@ -134,13 +134,13 @@ TEST_F(ExpressionTest, HostOverflowEndsTheRun) {
     std::int32_t value = 0;
     bool found = false;
     std::string huge = "99999999999";
-    EXPECT_THROW(assembler_->evaluateExpression(huge, value, found), RuntimeFailure);
+    EXPECT_THROW(probe().evaluateExpression(huge, value, found), RuntimeFailure);
     std::string product = "65536*65536";
-    EXPECT_THROW(assembler_->evaluateExpression(product, value, found), RuntimeFailure);
+    EXPECT_THROW(probe().evaluateExpression(product, value, found), RuntimeFailure);
     std::string endless = "1";
     for (int i = 0; i < 100000; ++i) endless += "+1";
     try {
-        assembler_->evaluateExpression(endless, value, found);
+        probe().evaluateExpression(endless, value, found);
         ADD_FAILURE() << "no failure";
     } catch (const RuntimeFailure& failure) {
         EXPECT_EQ(failure.number(), 28);
@@ -148,7 +148,7 @@ TEST_F(ExpressionTest, HostOverflowEndsTheRun) {
     // The guard unwinds with the failure: a later expression evaluates again.
     std::string plain = "2+3";
     value = 0;
-    assembler_->evaluateExpression(plain, value, found);
+    probe().evaluateExpression(plain, value, found);
     EXPECT_EQ(value, 5);
 }
 

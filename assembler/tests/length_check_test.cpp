@@ -18,7 +18,6 @@ class LengthCheckTest : public AssemblerFixture {
     // named as the command line names it.
     std::vector<std::string> warningsOf(const std::vector<std::string>& lines) {
         EXPECT_EQ(assembleLines(lines), RunOutcome::Completed);
-        assembler_->state().sourceName = folder_ + "prog.a51";
         return lengthChangeWarnings(assembler_->state());
     }
 };
@@ -68,7 +67,7 @@ TEST_F(LengthCheckTest, StatementsOfAnIncludeNameTheirFile) {
     EXPECT_TRUE(startsWith(warnings[1], "Warnung: prog.a51 Zeile 4: ")) << warnings[1];
 
     // Without a source name the main file's lines stand alone.
-    assembler_->state().sourceName.clear();
+    probe().state().sourceName.clear();
     EXPECT_TRUE(startsWith(lengthChangeWarnings(assembler_->state())[1], "Warnung: Zeile 4: "));
 }
 

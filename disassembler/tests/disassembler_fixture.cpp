@@ -19,13 +19,11 @@ void DisassemblerFixture::SetUp() {
     ASSERT_FALSE(folder_.empty());
     std::filesystem::copy(KORVEX_DATA_DIR "/cpu", folder_);
     writeWholeFile(folder_ + "test.cpu", kNamingDriver);
-    AssemblerSettings settings;
-    settings.programFolder = settings.temporaryFolder = settings.sourceFolder = folder_;
-    assembler_ = std::make_unique<Assembler>(host_, settings);
     DisassemblerSettings disassemblerSettings;
+    disassemblerSettings.programFolder = folder_;
     disassemblerSettings.controllerName = "test";
     disassemblerSettings.temporaryFolder = folder_;
-    disassembler_ = std::make_unique<Disassembler>(host_, *assembler_, disassemblerSettings);
+    disassembler_ = std::make_unique<Disassembler>(host_, disassemblerSettings);
 }
 
 void DisassemblerFixture::TearDown() {
@@ -60,10 +58,9 @@ std::string DisassemblerFixture::assemble(const std::string& source,
     QuietHost host;
     AssemblerSettings settings;
     settings.programFolder = settings.temporaryFolder = folder_;
-    settings.sourceFolder = sourceFolder.empty() ? folder_ : sourceFolder;
     Assembler assembler(host, settings);
     writeWholeFile(folder_ + "TmpFile.tmp", source);
-    std::string name = settings.sourceFolder + "roundtrip.a51";
+    const std::string name = (sourceFolder.empty() ? folder_ : sourceFolder) + "roundtrip.a51";
     EXPECT_EQ(assembler.assembleSource(name, {}), RunOutcome::Completed) << host.lastBoxText;
     if (findings != nullptr) {
         findings->clear();

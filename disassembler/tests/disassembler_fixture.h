@@ -41,7 +41,6 @@ class DisassemblerFixture : public ::testing::Test {
 
     std::string folder_;  // program and temporary folder; ends in "/"
     QuietHost host_;
-    std::unique_ptr<Assembler> assembler_;
     std::unique_ptr<Disassembler> disassembler_;
 };
 

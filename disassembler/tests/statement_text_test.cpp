@@ -28,7 +28,8 @@ TEST_F(StatementText, DirectOperandsAndBitsByTheDriver) {
               (std::vector<std::string>{"\tclr TR0", "\tclr TCON.3", "\tsetb 20h.7", "\tcpl 2Fh.7",
                                         "\tmov c, F9h", "\tanl c, /ACC7", "\tmov P1.5, c"}));
     // The routine itself gives the decimal comment, which no form shows.
-    const OperandNames names(assembler_->state().sfrTable, assembler_->state().bitTable);
+    const DriverReading driver = readCpuDriverFile(path("test.cpu"));
+    const OperandNames names(driver.driver);
     std::string hex = "30", comment = "vorher";
     names.directName(hex, comment);
     EXPECT_EQ(hex + comment, "30h\t; 48d");

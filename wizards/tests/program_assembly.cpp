@@ -34,7 +34,6 @@ AssembledProgram assembleProgram(const std::string& program, const std::string& 
     AssemblerSettings settings;
     settings.programFolder = std::string(KORVEX_DATA_DIR) + "/cpu/";
     settings.temporaryFolder = folder.path();
-    settings.sourceFolder = folder.path();
     QuietHost host;
     Assembler assembler(host, settings);
     writeWholeFile(folder.path() + "TmpFile.tmp", program);

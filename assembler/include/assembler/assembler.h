@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "assembler/cpu_driver.h"
 #include "assembler/run_state.h"
 #include "assembler/source_file.h"
 #include "base/host.h"
@@ -30,7 +31,6 @@ CalendarDate todaysDate();
 struct AssemblerSettings {
     std::string programFolder;    // drivers live here; ends in "/"
     std::string temporaryFolder;  // TmpFile.tmp and the include copies; ends in "/"
-    std::string sourceFolder;     // folder of the compiled source; ends in "/"
     std::string listingExtension = "l51";
     std::string binaryExtension = "b51";
     std::string hexExtension = "h51";
@@ -51,19 +51,34 @@ class Assembler {
   public:
     Assembler(Host& host, AssemblerSettings settings);
 
-    // Assembles `temporaryFolder` + "TmpFile.tmp", which the caller has written.
-    // `sourceName` is the full path of the source; its extension is cut in place.
-    RunOutcome assembleSource(std::string& sourceName, OutputSwitches switches);
+    // Assembles `temporaryFolder` + "TmpFile.tmp", which the caller has written,
+    // as the source `sourceName` (full path, file system form): the outputs are
+    // named after it without its extension, its includes are looked up in its
+    // folder. A run-time failure ends in the failure box and `Failed`.
+    RunOutcome assembleSource(const std::string& sourceName, OutputSwitches switches);
+    // The same run without the trap, for callers that want the failure itself.
+    RunOutcome runUntrapped(const std::string& sourceName, OutputSwitches switches);
 
     // Set by the compile dialog (through the host's pending events) to stop a run.
     void requestAbort() { abortRequested_ = true; }
     void clearAbort() { abortRequested_ = false; }
 
-    RunState& state() { return state_; }
+    // What the last run left: rows, tables, report.
     const RunState& state() const { return state_; }
+    // The driver the last "#cpu" brought; its counters outlive the runs.
+    const CpuDriver& cpuDriver() const { return driver_; }
+    // Folders and extensions; the workbench sets them before a run.
     AssemblerSettings& settings() { return settings_; }
+    const AssemblerSettings& settings() const { return settings_; }
 
-    // The routines of the line code, public so that they can be checked one by one.
+    // The listing of the last run.
+    std::string listingText() const;
+
+  private:
+    // The tests reach the evaluator and the run state through this seam.
+    friend class AssemblerProbe;
+
+    // The routines of the line code.
     void prepareLine(std::string& line);
     void processStatement(std::string& text);
     void evaluateExpression(std::string& text, std::int32_t& value, bool& found);
@@ -77,6 +92,7 @@ class Assembler {
     // Directives, declarations and drivers.
     bool handleDirective(std::string& text);
     void readCpuDriver(const std::string& head, const std::string& tail);
+    void keepDriver(const CpuDriver& read);
     void declareList(std::string list, const std::string& kind);
     void declareName(std::string key, std::string written, int kind);
 
@@ -91,15 +107,8 @@ class Assembler {
     void compileExitCondition(std::string text);
     void compileTable();
 
-    // The report and the listing of the last run.
     void buildReport(std::int32_t endOfCode);
-    std::string listingText() const;
 
-    // The run as the driver does it, without the trap; for callers that want
-    // the failure itself (tests). `assembleSource` wraps it.
-    RunOutcome runUntrapped(std::string& sourceName, OutputSwitches switches);
-
-  private:
     void evaluatePart(std::string_view text, std::int32_t& value, bool& found, std::string* caller);
     void foldCharacterLiterals(std::string& text);
     void splitTokens(const std::string& text);
@@ -113,7 +122,8 @@ class Assembler {
     void resetRun();
     bool firstPass();
     bool secondPassOver();
-    void writeOutputs(std::string& sourceName, OutputSwitches switches, std::int32_t endOfCode);
+    void writeOutputs(const std::string& sourceName, OutputSwitches switches,
+                      std::int32_t endOfCode);
     void refuseOverwritingSource(const std::string& output, const std::string& sourceName) const;
     void letEventsRun();
 
@@ -183,6 +193,7 @@ class Assembler {
     AssemblerSettings settings_;
     int expressionDepth_ = 0;
     RunState state_;
+    CpuDriver driver_;
     bool abortRequested_ = false;
     std::map<int, SourceFile> files_;
 };

@@ -89,14 +89,13 @@ struct RunState {
     // The source's path (file system, UTF-8) as the run was called with it,
     // written by the driver at run start; messages name the main file by it.
     std::string sourceName;
+    // Its folder, where includes are looked up; ends in "/", empty for a bare name.
+    std::string sourceFolder;
     // Filled by the second pass, emptied at run start.
     std::vector<LengthChange> lengthChanges;
 
-    // Counts of what the last driver file brought; only the driver reader
-    // writes them, and a run leaves them alone.
-    std::int32_t vectorCount = 0;
-    Int16 sfrCount = 0;
-    Int16 bitCount = 0;
+    // The first row of the bit table that a source's "#bit" may fill: set
+    // by the driver reader, left alone by a run.
     Int16 firstUserBit = 0;
 
     // Lines read so far, by file number.

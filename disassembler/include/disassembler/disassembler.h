@@ -3,7 +3,7 @@
 // language, with or without labels. One linear sweep, no tracing of jumps:
 // every byte from the first on is taken for an instruction. Names of
 // registers and bits come from the driver of the configured controller,
-// which the assembler reads afresh for each run.
+// read afresh for each run.
 //
 // The file dialog and the new editor window belong to the caller: a run
 // takes the chosen path and returns the caption and the text the window gets.
@@ -11,7 +11,6 @@
 #include <optional>
 #include <string>
 
-#include "assembler/assembler.h"
 #include "base/host.h"
 
 namespace korvex {
@@ -23,6 +22,7 @@ struct DisassemblerOptions {
 };
 
 struct DisassemblerSettings {
+    std::string programFolder;            // the drivers lie here; ends in "/"
     std::string controllerName = "8032";  // ControllerName
     std::string sourceExtension = "a51";  // of the caption
     std::string temporaryFolder;          // Disas.tmp and Disas2.tmp; ends in "/"
@@ -58,9 +58,7 @@ struct DisassemblyResult {
 
 class Disassembler {
   public:
-    // The assembler is the workbench's: its driver reader fills the tables
-    // that the names come from.
-    Disassembler(Host& host, Assembler& assembler, DisassemblerSettings settings);
+    Disassembler(Host& host, DisassemblerSettings settings);
 
     // `path` is the file system's path of the chosen file; empty is the
     // dialog's Cancel.
@@ -74,7 +72,6 @@ class Disassembler {
              DisassemblyMonitor& monitor, DisassemblyResult& result);
 
     Host& host_;
-    Assembler& assembler_;
     DisassemblerSettings settings_;
 };
 

@@ -1,20 +1,20 @@
 #pragma once
 // How operands are written: registers and bits by the names of the driver
 // file, other numbers as hexadecimal with "h", jump targets as four digits.
-// The naming routines search the tables first entry first; a run asks them
+// The naming routines search the driver's lists first entry first; a run asks them
 // once for each of the 256 values and keeps the answers.
 
 #include <array>
 #include <cstdint>
 #include <string>
 
-#include "assembler/text_table.h"
+#include "assembler/cpu_driver.h"
 
 namespace korvex {
 
 class OperandNames {
   public:
-    OperandNames(const TextTable<3>& sfrTable, const TextTable<4>& bitTable);
+    explicit OperandNames(const CpuDriver& driver);
 
     // `hex` (two digits) becomes the register's name; with no register at that
     // address it gets "h", and `comment` becomes the decimal value.
@@ -27,8 +27,7 @@ class OperandNames {
     const std::string& immediate(std::uint8_t value) const { return immediate_[value]; }
 
   private:
-    const TextTable<3>& sfrTable_;
-    const TextTable<4>& bitTable_;
+    const CpuDriver& driver_;
     std::array<std::string, 256> direct_;
     std::array<std::string, 256> bit_;
     std::array<std::string, 256> immediate_;
