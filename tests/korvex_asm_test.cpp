@@ -48,15 +48,6 @@ class KorvexAsmTest : public ::testing::Test {
     std::string folder_;
 };
 
-TEST_F(KorvexAsmTest, UsageAndHelp) {
-    Result r = run("--help");
-    EXPECT_EQ(r.exitCode, 0);
-    EXPECT_NE(r.output.find("Aufruf: korvex-asm"), std::string::npos);
-    EXPECT_EQ(run("").exitCode, 64);
-    EXPECT_EQ(run("--bogus x.a51").exitCode, 64);
-    EXPECT_EQ(run("a.a51 b.a51").exitCode, 64);
-}
-
 TEST_F(KorvexAsmTest, DefaultOutputsLandBesideTheSource) {
     const std::string source = write("prog.a51", "#cpu testchip\r\nNOP\r\nRET\r\n");
     const Result r = runHere(source);

@@ -42,18 +42,6 @@ class KorvexDisasm : public ::testing::Test {
     std::string folder_;
 };
 
-TEST_F(KorvexDisasm, Usage) {
-    const Result help = run("--help");
-    EXPECT_EQ(help.exitCode, 0);
-    EXPECT_NE(help.output.find("Aufruf: korvex-disasm"), std::string::npos);
-    EXPECT_NE(help.output.find("Rückgabewerte"), std::string::npos);
-    EXPECT_EQ(run("").exitCode, 64);
-    EXPECT_EQ(run("--bogus x.bin").exitCode, 64);
-    EXPECT_EQ(run("a.bin b.bin").exitCode, 64);
-    EXPECT_EQ(run("x.bin -o").exitCode, 64);
-    EXPECT_EQ(run("x.bin --controller").exitCode, 64);
-}
-
 TEST_F(KorvexDisasm, PrintsTheWindowTextInTheTerminalsEncoding) {
     write("prog.bin", std::string("\xE5\xE0\x74\xE4\x80\xFE", 6));
     const Result r = run(here() + "prog.bin", false);
