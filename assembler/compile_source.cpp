@@ -7,6 +7,23 @@
 #include "base/text.h"
 
 namespace korvex {
+namespace {
+
+// Where `upperCase(text).find(pattern)` would find it, without an upper case
+// copy of a whole source. The pattern starts with a character that only
+// stands for itself ("#"), so the search jumps from one of those to the next.
+std::size_t findUpperCase(const std::string& text, std::string_view pattern) {
+    for (std::size_t at = text.find(pattern[0]); at != std::string::npos;
+         at = text.find(pattern[0], at + 1)) {
+        if (text.size() - at < pattern.size()) break;
+        std::size_t i = 1;
+        while (i < pattern.size() && upperChar(text[at + i]) == pattern[i]) ++i;
+        if (i == pattern.size()) return at;
+    }
+    return std::string::npos;
+}
+
+}  // namespace
 
 std::optional<CompileSource> decideCompileSource(const std::string& caption,
                                                  const std::string& text, Host& host,
@@ -18,7 +35,7 @@ std::optional<CompileSource> decideCompileSource(const std::string& caption,
     if (startsWith(caption, "Disassembling")) return nothing(NothingToCompile::DisassemblyWindow);
     if (text.empty()) return nothing(NothingToCompile::EmptyText);
     // Only the first occurrence counts, in a comment as well.
-    const std::size_t found = upperCase(text).find("#PART OF ");
+    const std::size_t found = findUpperCase(text, "#PART OF ");
     if (found == std::string::npos) return CompileSource{caption, text};
 
     const std::size_t start = found + 9;

@@ -3,7 +3,7 @@
 # installs what is missing; otherwise it names the missing packages.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ clang pkg-config libgtest-dev libbenchmark-dev as31 srecord sdcc-ucsim d52)
+packages=(cmake ninja-build g++ clang clang-format pkg-config libgtest-dev libbenchmark-dev as31 srecord sdcc-ucsim d52)
 
 missing=()
 for package in "${packages[@]}"; do

@@ -1,5 +1,7 @@
 #include "workbench/compile_command.h"
 
+#include <algorithm>
+
 #include "assembler/length_check.h"
 #include "assembler/source_places.h"
 #include "base/files.h"
@@ -10,6 +12,9 @@ namespace korvex {
 
 std::vector<Finding> findingsOf(const RunState& state) {
     std::vector<Finding> findings;
+    const bool anyMarker = std::any_of(state.sourceTable.begin(), state.sourceTable.end(),
+                                       [](const SourceRow& row) { return !row.marker.empty(); });
+    if (!anyMarker) return findings;
     const std::vector<SourcePlace> places = sourcePlaces(state);
     constexpr std::string_view kMark = ";>err";
     for (std::size_t row = 0; row < state.sourceTable.size() && row < places.size(); ++row) {
