@@ -44,11 +44,10 @@ void Assembler::patchLastByte(std::int32_t line, std::int32_t length, std::int32
     code.replace(at, 2, hexDigits(distance, 2));
 }
 
-void Assembler::addExitEntry(std::vector<std::string>& patches, int level) {
-    const std::string entry = std::to_string(level) + "," + std::to_string(state_.currentRow) +
-                              "," + std::to_string(state_.instructionLength.value());
+void Assembler::addExitEntry(std::vector<std::optional<ExitPatch>>& patches, int level) {
+    const ExitPatch entry{level, state_.currentRow, state_.instructionLength.value()};
     for (auto& slot : patches) {
-        if (slot.empty()) {
+        if (!slot) {
             slot = entry;
             return;
         }
@@ -56,15 +55,12 @@ void Assembler::addExitEntry(std::vector<std::string>& patches, int level) {
     patches.push_back(entry);
 }
 
-void Assembler::resolveExits(std::vector<std::string>& patches, int level, std::int32_t target,
-                             std::int32_t extra) {
+void Assembler::resolveExits(std::vector<std::optional<ExitPatch>>& patches, int level,
+                             std::int32_t target, std::int32_t extra) {
     for (auto& entry : patches) {
-        if (entry.empty()) continue;
-        const std::size_t first = entry.find(',');
-        const std::size_t second = entry.find(',', first + 1);
-        if (parseDecimal(entry.substr(0, first)) != level) continue;
-        const auto line = static_cast<std::int32_t>(parseDecimal(entry.substr(first + 1, second - first - 1)));
-        const auto length = static_cast<std::int32_t>(parseDecimal(entry.substr(second + 1)));
+        if (!entry || entry->level != level) continue;
+        const std::int32_t line = entry->line;
+        const std::int32_t length = entry->length;
         const auto source = static_cast<std::int32_t>(
             parseHexPrefix(state_.codeText.at(static_cast<std::size_t>(line)).substr(0, 4)));
         std::int32_t distance = target - source - length + extra;
@@ -73,7 +69,7 @@ void Assembler::resolveExits(std::vector<std::string>& patches, int level, std::
             markOutOfRange(line);
         }
         patchLastByte(line, length, distance);
-        entry.clear();
+        entry.reset();
     }
 }
 

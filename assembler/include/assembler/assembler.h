@@ -173,9 +173,9 @@ class Assembler {
     bool compileLoop();
     bool compileLoopEnd();
     bool compileConditionForm(const std::string& text, bool jumpWhenTrue);
-    void addExitEntry(std::vector<std::string>& patches, int level);
-    void resolveExits(std::vector<std::string>& patches, int level, std::int32_t target,
-                      std::int32_t extra);
+    void addExitEntry(std::vector<std::optional<ExitPatch>>& patches, int level);
+    void resolveExits(std::vector<std::optional<ExitPatch>>& patches, int level,
+                      std::int32_t target, std::int32_t extra);
     void patchLastByte(std::int32_t line, std::int32_t length, std::int32_t distance);
     void markOutOfRange(std::int32_t line);
     void growForNewRow();

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -57,6 +58,14 @@ struct LoopRow {
     std::int32_t whileLine = 0;
     std::int32_t loopHead = 0;
     std::int32_t whileLength = 0;
+};
+
+// An EXIT jump waiting for the end of its structure: the structure's level,
+// the row of the jump, and the jump's length, whose last byte gets the offset.
+struct ExitPatch {
+    int level = 0;
+    std::int32_t line = 0;
+    std::int32_t length = 0;
 };
 
 // A row that the second pass encoded to another number of bytes than the
@@ -118,14 +127,13 @@ struct RunState {
     std::vector<std::string> includeList;
 
     // Structures: rows grow when needed and are never shrunk; the counts above
-    // tell how many are open. Exit jumps wait as "level,line,length" texts, an
-    // empty text being a free slot.
+    // tell how many are open. Exit jumps wait in the first free slot.
     std::vector<IfRow> ifStack;
     std::vector<ForRow> forStack;
     std::vector<LoopRow> loopStack;
-    std::vector<std::string> exitIfPatches;
-    std::vector<std::string> exitForPatches;
-    std::vector<std::string> exitLoopPatches;
+    std::vector<std::optional<ExitPatch>> exitIfPatches;
+    std::vector<std::optional<ExitPatch>> exitForPatches;
+    std::vector<std::optional<ExitPatch>> exitLoopPatches;
 };
 
 }  // namespace korvex
