@@ -151,8 +151,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
         // Whatever happened, no operation may keep the generation held back:
         // the program would never follow the settings again.
-        if (!wizard.generationGuard.idle()) {
-            std::fprintf(stderr, "generation guard left at %d\n", wizard.generationGuard.value());
+        if (wizard.generationHeldBy() != 0) {
+            std::fprintf(stderr, "generation guard left at %d\n", wizard.generationHeldBy());
             std::abort();
         }
     }

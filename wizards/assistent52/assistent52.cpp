@@ -30,7 +30,7 @@ TimerControls Assistent52::timer1() {
 }
 
 void Assistent52::loadSettings() {
-    generationGuard.set(guard_code::kLoad);
+    generationGuard_.set(guard_code::kLoad);
     selectTab(0);
     setListIndex(s_.SCombo1, 0);
     setListIndex(s_.UCombo1, 0);
@@ -47,7 +47,7 @@ void Assistent52::loadSettings() {
     setListIndex(s_.T1Combo1, 0);
     setListIndex(s_.T2Combo1, 1);
     s_.T2Check1.visible = true;
-    generationGuard.set(0);
+    generationGuard_.set(0);
     regenerateProgram();
 }
 

@@ -27,8 +27,8 @@ class GeneratorRun {
 }  // namespace
 
 void Assistent52::regenerateProgram() {
-    if (generationGuard.value() > 0) return;
-    GeneratorRun run(generationGuard);
+    if (generationGuard_.value() > 0) return;
+    GeneratorRun run(generationGuard_);
     GenerationContext context;
     context.fosc = oscillatorHz(clockMegahertz());
     for (std::size_t i = 0; i < context.used.size(); ++i) {

@@ -43,7 +43,7 @@ void Assistent52::SCheck1Click() {
 }
 
 void Assistent52::SCommand1Click() {
-    GuardHold hold(generationGuard, guard_code::kResetValues);
+    GuardHold hold(generationGuard_, guard_code::kResetValues);
     setText(s_.SText2, "08");
     setCheck(s_.SCheck1, 0);
     setCheck(s_.SCheck2, 0);
@@ -75,7 +75,7 @@ void Assistent52::UCheck1Click() {
                   "für andere Zwecke verwendet werden.\r\nGeben Sie einen dieser Timer frei."));
     } else if (timer1Busy || timer2Busy) {
         // The timer that is free becomes the baud generator of both directions.
-        GuardHold hold(generationGuard, guard_code::kSerialUse);
+        GuardHold hold(generationGuard_, guard_code::kSerialUse);
         const int generator = timer1Busy ? 1 : 0;
         setListIndex(s_.UCombo1, generator);
         setListIndex(s_.UCombo2, generator);
@@ -85,7 +85,7 @@ void Assistent52::UCheck1Click() {
 }
 
 void Assistent52::UOption1Click(int index) {
-    GuardHold hold(generationGuard, guard_code::kSerialMode);
+    GuardHold hold(generationGuard_, guard_code::kSerialMode);
     const bool needsGenerator = index % 2 == 1;
     for (ComboBox* list : {&s_.UCombo1, &s_.UCombo2, &s_.UCombo3, &s_.UCombo4}) {
         list->enabled = needsGenerator;
@@ -124,16 +124,16 @@ void Assistent52::UComboClick() {
     // questions on the command line).
     const auto revertSerialGenerators = [this](int generator) {
         {
-            GuardHold hold(generationGuard, guard_code::kRevertSerialLists);
+            GuardHold hold(generationGuard_, guard_code::kRevertSerialLists);
             setListIndex(s_.UCombo1, generator);
             setListIndex(s_.UCombo2, generator);
         }
-        if (generationGuard.idle()) regenerateProgram();
+        if (generationGuard_.idle()) regenerateProgram();
     };
     const auto onTimer = [this](int generator) {
         return s_.UCombo1.listIndex == generator || s_.UCombo2.listIndex == generator;
     };
-    if (generationGuard.idle()) {
+    if (generationGuard_.idle()) {
         if (onTimer(0) && s_.T1Check0.value != 0) {
             if (!host_.question("Konflikt",
                                 text8("Timer 1 wird bereits für andere Zwecke verwendet.\r\n Soll "
@@ -142,7 +142,7 @@ void Assistent52::UComboClick() {
                 revertSerialGenerators(1);
                 return;
             }
-            GuardHold hold(generationGuard, guard_code::kConflictAnswer);
+            GuardHold hold(generationGuard_, guard_code::kConflictAnswer);
             setCheck(s_.T1Check0, 0);
         }
         if (onTimer(1) && s_.T2Check0.value != 0) {
@@ -153,7 +153,7 @@ void Assistent52::UComboClick() {
                 revertSerialGenerators(0);
                 return;
             }
-            GuardHold hold(generationGuard, guard_code::kConflictAnswer);
+            GuardHold hold(generationGuard_, guard_code::kConflictAnswer);
             setCheck(s_.T2Check0, 0);
         }
     }
@@ -164,9 +164,9 @@ void Assistent52::UComboClick() {
     s_.UCombo3.width = different ? kBaudListNarrowWidth : kBaudListWideWidth;
     if (different) {
         s_.UCheck4.enabled = true;
-        generationGuard.take(guard_code::kConflictAnswer);
+        generationGuard_.take(guard_code::kConflictAnswer);
         setListIndex(s_.T2Combo1, 8);
-        if (generationGuard.value() == guard_code::kConflictAnswer) {
+        if (generationGuard_.value() == guard_code::kConflictAnswer) {
             selectOption(s_.T2Option1, receive == 1 ? 1 : 0);
         }
     } else if (receive == 0) {
@@ -183,8 +183,8 @@ void Assistent52::UComboClick() {
         selectOption(s_.T2Option1, 2);
     }
     s_.T2Text4.enabled = s_.T2Text5.enabled = s_.T2Frame1.enabled = false;
-    generationGuard.release(guard_code::kConflictAnswer);
-    if (generationGuard.idle()) regenerateProgram();
+    generationGuard_.release(guard_code::kConflictAnswer);
+    if (generationGuard_.idle()) regenerateProgram();
 }
 
 void Assistent52::UComboLostFocus(ComboBox& list) {

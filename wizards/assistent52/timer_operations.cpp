@@ -65,7 +65,7 @@ void Assistent52::T1Combo1Click() {
     }
     s_.T1Check2.enabled = s_.T1Check0.value != 0 && mode != 3;
     if (mode == 3 && s_.T0Combo1.listIndex < 3) {
-        GuardHold hold(generationGuard, guard_code::kTimer1Mode);
+        GuardHold hold(generationGuard_, guard_code::kTimer1Mode);
         setCheck(s_.T1Check2, 0);
         setCheck(s_.T0Check3, 0);
     }
@@ -87,22 +87,22 @@ void Assistent52::TimerOptionClick(const TimerControls& timer) {
 }
 
 void Assistent52::T0Check3Click() {
-    GuardHold hold(generationGuard, guard_code::kRunBitMirror);
+    GuardHold hold(generationGuard_, guard_code::kRunBitMirror);
     setCheck(s_.T1Check2, s_.T0Check3.value);
     hold.release();
     regenerateProgram();
 }
 
 void Assistent52::T1Check2Click() {
-    GuardHold hold(generationGuard, guard_code::kRunBitMirror);
+    GuardHold hold(generationGuard_, guard_code::kRunBitMirror);
     setCheck(s_.T0Check3, s_.T1Check2.value);
     hold.release();
     regenerateProgram();
 }
 
 void Assistent52::T1Check0Click() {
-    if (revertPending != 0) {
-        revertPending = 0;
+    if (revertPending_ != 0) {
+        revertPending_ = 0;
         return;
     }
     const bool on = s_.T1Check0.value != 0;
@@ -110,11 +110,11 @@ void Assistent52::T1Check0Click() {
         if (!host_.question("Konflikt",
                             text8("Timer 1 wird bereits als Baudratengenerator "
                                   "verwendet. Möchten Sie diese Zuordnung aufheben?"))) {
-            revertPending = 1;
+            revertPending_ = 1;
             setCheck(s_.T1Check0, 0);
             return;
         }
-        GuardHold hold(generationGuard, guard_code::kConflictAnswer);
+        GuardHold hold(generationGuard_, guard_code::kConflictAnswer);
         setCheck(s_.UCheck1, 0);
     }
     if (s_.T0Combo1.listIndex == 3 && on) {
@@ -132,16 +132,16 @@ void Assistent52::T1Check0Click() {
                                                       &s_.T1Text2, &s_.T1Check2, &s_.T1Command1}) {
         c->enabled = on;
     }
-    if (!on && s_.UCheck1.value == 1 && generationGuard.idle()) {
-        GuardHold hold(generationGuard, guard_code::kNestedSerialCheck);
+    if (!on && s_.UCheck1.value == 1 && generationGuard_.idle()) {
+        GuardHold hold(generationGuard_, guard_code::kNestedSerialCheck);
         UCheck1Click();
     }
     regenerateProgram();
 }
 
 void Assistent52::T2Check0Click() {
-    if (revertPending != 0) {
-        revertPending = 0;
+    if (revertPending_ != 0) {
+        revertPending_ = 0;
         return;
     }
     const bool on = s_.T2Check0.value != 0;
@@ -149,11 +149,11 @@ void Assistent52::T2Check0Click() {
         if (!host_.question("Konflikt", text8("Timer 2 wird bereits als Baudratengenerator "
                                               "verwendet.\r\nMöchten Sie diese Zuordnung "
                                               "aufheben?"))) {
-            revertPending = 1;
+            revertPending_ = 1;
             setCheck(s_.T2Check0, 0);
             return;
         }
-        GuardHold hold(generationGuard, guard_code::kConflictAnswer);
+        GuardHold hold(generationGuard_, guard_code::kConflictAnswer);
         setCheck(s_.UCheck1, 0);
     }
     for (Control* c :
@@ -162,14 +162,14 @@ void Assistent52::T2Check0Click() {
         c->enabled = on;
     }
     if (on) {
-        GuardHold hold(generationGuard, guard_code::kLoad);
+        GuardHold hold(generationGuard_, guard_code::kLoad);
         T2Combo1Click();
     } else {
         s_.T2Check1.visible = true;
     }
     if (!on && s_.UCheck1.value == 1) {
         // Both passes of the serial rules run, now that Timer 2 is free again.
-        GuardHold hold(generationGuard, guard_code::kTimer2Use);
+        GuardHold hold(generationGuard_, guard_code::kTimer2Use);
         setCheck(s_.UCheck1, 0);
         setCheck(s_.UCheck1, 1);
     }
@@ -223,7 +223,7 @@ void Assistent52::T2Command1Click() {
         if (megahertz <= 0) return;
         const std::int32_t reload = timer2ReloadForFrequency(oscillatorHz(megahertz), frequency,
                                                              s_.T2Combo1.listIndex == 8);
-        GuardHold hold(generationGuard, guard_code::kTimer2Frequency);
+        GuardHold hold(generationGuard_, guard_code::kTimer2Frequency);
         setText(s_.T2Text5, hex2(static_cast<std::int64_t>(std::floor(reload / 256.0))));
         setText(s_.T2Text4, hex2(reload % 256));
         hold.release();

@@ -12,6 +12,7 @@ namespace korvex::wizards {
 namespace {
 
 using testing::WizardFixture;
+using TimerArithmeticCommands = WizardFixture;
 
 TEST(TimerArithmetic, BaudRatesByTimer1) {
     const BaudSetting b2400 = timer1Baud(12e6f, 2400, false);
@@ -56,7 +57,7 @@ TEST(TimerArithmetic, OverflowRatesAndReloadsFromAFrequency) {
     EXPECT_EQ(timer2ReloadForFrequency(12e6f, 9600, true), 65497);
 }
 
-TEST_F(WizardFixture, FrequencyCommandsWriteTheReload) {
+TEST_F(TimerArithmeticCommands, FrequencyCommandsWriteTheReload) {
     // 10000 Hz on Timer 2 at 12 MHz: R = 65436 = FF9Ch.
     set("T2Check0", "1");
     host_.inputs = {"10000"};
@@ -89,7 +90,7 @@ TEST_F(WizardFixture, FrequencyCommandsWriteTheReload) {
     EXPECT_EQ(s().T0Text2.text, "9C");
 }
 
-TEST_F(WizardFixture, FailuresOfTheCommandsAreCaughtAndShown) {
+TEST_F(TimerArithmeticCommands, FailuresOfTheCommandsAreCaughtAndShown) {
     // A frequency so small that the 16-bit reload overflows 32 bits.
     set("T2Check0", "1");
     host_.inputs = {"0.000001"};
@@ -98,10 +99,10 @@ TEST_F(WizardFixture, FailuresOfTheCommandsAreCaughtAndShown) {
     EXPECT_EQ(boxTexts(ScriptedWizardHost::Kind::Failure),
               std::vector<std::string>{"Fehler Nummer6 wurde ausgelöst von Korvex\r\n"
                                        "Überlauf: Überprüfen Sie Ihre Eingaben."});
-    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.atRest());
 }
 
-TEST_F(WizardFixture, ProgramShowsTheActualBaudRateAndTheDerivedCaptions) {
+TEST_F(TimerArithmeticCommands, ProgramShowsTheActualBaudRateAndTheDerivedCaptions) {
     apply({"UCheck1=1", "UOption1=1"});
     EXPECT_TRUE(hasLine("mov TH1, #F3h\t; Reloadwert für Baudrate 2403,846"));
     EXPECT_EQ(s().T1Text2.text, "F3");

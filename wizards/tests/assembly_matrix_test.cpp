@@ -12,6 +12,8 @@
 namespace korvex::wizards::testing {
 namespace {
 
+using GeneratedProgramAssembly = WizardFixture;
+
 struct Case {
     std::string name;
     std::vector<std::string> settings;
@@ -138,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Assistent52, AssemblyMatrix, ::testing::ValuesIn(matrix
 // The wizard writes the serial interrupt's main loop even without the port,
 // and then leaves it open for the user to complete: such a source does not
 // assemble until the user adds to it.
-TEST_F(WizardFixture, SerialInterruptWithoutPortLeavesTheLoopOpen) {
+TEST_F(GeneratedProgramAssembly, SerialInterruptWithoutPortLeavesTheLoopOpen) {
     set("ICheck1(4)", "1");
     const AssembledProgram result = assembleProgram(program());
     EXPECT_FALSE(result.findings.empty() && result.report.rfind("Warnungen/Fehler:", 0) != 0)

@@ -8,10 +8,15 @@
 #include "base/failure.h"
 #include "wizards/core/comment_colouring.h"
 #include "wizard_fixture.h"
+#include "testing/scripted_host.h"
 #include "wizards/wizard_factory.h"
 
 namespace korvex::wizards::testing {
 namespace {
+
+using WizardCommands = WizardFixture;
+using FieldRepairs = WizardFixture;
+using ControlUse = WizardFixture;
 
 using Kind = ScriptedWizardHost::Kind;
 
@@ -46,7 +51,7 @@ TEST_F(CountingFixture, OpeningGivesTheLoadTimeSettingsOnce) {
     EXPECT_EQ(s.T2Combo1.listIndex, 1);
     EXPECT_TRUE(s.T2Check1.visible);
     EXPECT_FALSE(s.T0Check3.visible);
-    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.atRest());
     EXPECT_TRUE(wizard_.windowVisible());
     EXPECT_TRUE(host_.boxes.empty());
 
@@ -79,10 +84,10 @@ TEST_F(CountingFixture, CompoundChangesGenerateOnceAtTheEnd) {
     before = generations_;
     wizard_.userSets("UOption1", -1, "1");
     EXPECT_EQ(generations_ - before, 1);
-    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.atRest());
 }
 
-TEST_F(WizardFixture, ResetTouchesOnlyStackRamLcallAndBank) {
+TEST_F(WizardCommands, ResetTouchesOnlyStackRamLcallAndBank) {
     apply({"SText1=20", "SText5=Anlage", "SText2=40", "SCheck1=1", "SCheck2=1", "SCombo1=3"});
     EXPECT_TRUE(s().SText3.enabled && s().SText4.enabled);
     click("SCommand1");
@@ -95,7 +100,7 @@ TEST_F(WizardFixture, ResetTouchesOnlyStackRamLcallAndBank) {
     EXPECT_EQ(s().SText5.text, "Anlage");
 }
 
-TEST_F(WizardFixture, RepairsWhenAFieldIsLeft) {
+TEST_F(FieldRepairs, RepairsWhenAFieldIsLeft) {
     // An emptied clock keeps the old program until the field is left.
     set("SText1", "20");
     const std::string before = program();
@@ -127,20 +132,20 @@ TEST_F(WizardFixture, RepairsWhenAFieldIsLeft) {
     EXPECT_EQ(s().UCombo3.listIndex, 1);
 }
 
-TEST_F(WizardFixture, ClockThatIsNoNumberShowsTheFailureBox) {
+TEST_F(FieldRepairs, ClockThatIsNoNumberShowsTheFailureBox) {
     const std::string before = program();
     wizard_.userSets("SText1", -1, "1x");
     EXPECT_EQ(program(), before);
     EXPECT_EQ(boxTexts(Kind::Failure),
               std::vector<std::string>{"Fehler Nummer13 wurde ausgelöst von Korvex\r\n"
                                        "Typen unverträglich: Überprüfen Sie Ihre Eingaben."});
-    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.atRest());
     // Elsewhere the generator has no trap: the failure ends that generation.
     EXPECT_THROW(set("SCheck2", "1"), RuntimeFailure);
-    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.atRest());
 }
 
-TEST_F(WizardFixture, KeysThroughTheFieldFilters) {
+TEST_F(FieldRepairs, KeysThroughTheFieldFilters) {
     EXPECT_EQ(wizard_.userPresses("SText2", -1, 'a', 0), 0);  // "08" is full
     EXPECT_EQ(wizard_.userPresses("SText2", -1, 'a', 2), 'A');
     EXPECT_EQ(wizard_.userPresses("T2Text4", -1, 'x', 2), 0);
@@ -149,7 +154,7 @@ TEST_F(WizardFixture, KeysThroughTheFieldFilters) {
     EXPECT_EQ(wizard_.userPresses("SText5", -1, '.', 0), '.');  // free text
 }
 
-TEST_F(WizardFixture, UserActionsOnControlsThatCannotTakeThem) {
+TEST_F(ControlUse, UserActionsOnControlsThatCannotTakeThem) {
     EXPECT_THROW(set("Nichts", "1"), ControlUseError);
     EXPECT_THROW(set("SCheck1", "2"), ControlUseError);
     EXPECT_THROW(set("UCheck3", "1"), ControlUseError);     // disabled in mode 0
@@ -185,7 +190,7 @@ class FakeEditor : public EditorAccess {
     std::vector<std::int16_t> recoloured;
 };
 
-TEST_F(WizardFixture, TransferPutsTheProgramInFrontOfTheActiveDocument) {
+TEST_F(WizardCommands, TransferPutsTheProgramInFrontOfTheActiveDocument) {
     FakeEditor editor;
     wizard_.transferToEditor(editor);  // no window: nothing at all
     EXPECT_TRUE(wizard_.windowVisible());
@@ -223,7 +228,7 @@ TEST(CommentColouring, CommentsRunToAndWithTheLineEnd) {
     EXPECT_EQ(text.substr(ranges[2].start, ranges[2].length), ";zwei");
 }
 
-TEST_F(WizardFixture, PreviewIsColouredWithEachGeneration) {
+TEST_F(WizardCommands, PreviewIsColouredWithEachGeneration) {
     const auto& ranges = wizard_.previewColouring();
     ASSERT_FALSE(ranges.empty());
     EXPECT_EQ(ranges[0].length, program().size());
@@ -251,6 +256,38 @@ TEST(WizardFactory, ChipsHaveTheirWizardAndATypoInABindingFailsAtOnce) {
     EXPECT_EQ(makeWizard("52", host, {})->windowTitle(), "Assistent 80C52 / 80C32");
     EXPECT_EQ(makeWizard("8051x", host, {}), nullptr);
     EXPECT_THROW(MisboundWizard{host}, std::logic_error);
+}
+
+// The workbench's boxes for a wizard: a question is a Yes/No box with the
+// warning sign and Yes means yes; notes and failures are plain boxes without
+// a title; the input box is the shell's function, and without one Cancel.
+TEST(HostWizardHost, PutsQuestionsNotesAndInputsOnTheHost) {
+    ScriptedHost host({MessageAnswer::Yes, MessageAnswer::No});
+    std::vector<std::string> prompted;
+    HostWizardHost boxes(host, [&](const std::string& title, const std::string& text,
+                                   const std::string& answer) {
+        prompted = {title, text, answer};
+        return std::string("11,0592");
+    });
+    EXPECT_TRUE(boxes.question("Konflikt", "Aufheben?"));
+    EXPECT_FALSE(boxes.question("Konflikt", "Aufheben?"));
+    boxes.note("Hinweis");
+    boxes.failure("Fehler Nummer 6");
+    ASSERT_EQ(host.boxes.size(), 4u);
+    EXPECT_EQ(host.boxes[0].title, "Konflikt");
+    EXPECT_EQ(host.boxes[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(host.boxes[0].icon, MessageIcon::Exclamation);
+    for (std::size_t i : {2u, 3u}) {
+        EXPECT_EQ(host.boxes[i].title, "");
+        EXPECT_EQ(host.boxes[i].buttons, MessageButtons::Ok);
+        EXPECT_EQ(host.boxes[i].icon, MessageIcon::None);
+    }
+    EXPECT_EQ(host.boxes[3].text, "Fehler Nummer 6");
+
+    EXPECT_EQ(boxes.prompt("Frequenz", "Quarz in MHz", "12"), "11,0592");
+    EXPECT_EQ(prompted, (std::vector<std::string>{"Frequenz", "Quarz in MHz", "12"}));
+    HostWizardHost withoutInput(host, nullptr);
+    EXPECT_EQ(withoutInput.prompt("Frequenz", "Quarz in MHz", "12"), "");
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 namespace korvex::wizards::testing {
 namespace {
 
+using GeneratedProgramText = WizardFixture;
+
 // Lines from the first one equal to `first`, `count` of them.
 std::vector<std::string> block(const std::vector<std::string>& lines, const std::string& first,
                                std::size_t count) {
@@ -20,7 +22,7 @@ std::vector<std::string> block(const std::vector<std::string>& lines, const std:
     return {};
 }
 
-TEST_F(WizardFixture, DefaultProgramDescribesTimer0Only) {
+TEST_F(GeneratedProgramText, DefaultProgramDescribesTimer0Only) {
     EXPECT_EQ(
         toUtf8(program()),
         "; 23.11.2026 14:05:33\r\n"
@@ -39,7 +41,7 @@ TEST_F(WizardFixture, DefaultProgramDescribesTimer0Only) {
     EXPECT_EQ(program(), first);
 }
 
-TEST_F(WizardFixture, HeaderSystemLinesAndTheirQuirks) {
+TEST_F(GeneratedProgramText, HeaderSystemLinesAndTheirQuirks) {
     apply({"SText5=Förderband", "SCheck2=1", "SText2=0A", "SCheck1=1", "SText3=20", "SCombo1=2"});
     const auto l = lines();
     EXPECT_EQ(l[0], "; Förderband, 23.11.2026 14:05:33");
@@ -58,7 +60,7 @@ TEST_F(WizardFixture, HeaderSystemLinesAndTheirQuirks) {
     EXPECT_TRUE(hasLine("until r0 = #80h"));
 }
 
-TEST_F(WizardFixture, PriorityAloneWritesVectorAndRoutineButNoEnable) {
+TEST_F(GeneratedProgramText, PriorityAloneWritesVectorAndRoutineButNoEnable) {
     set("ICheck2(3)", "1");
     const auto l = lines();
     EXPECT_EQ(block(l, "ajmp Initialisierung", 4),
@@ -71,7 +73,7 @@ TEST_F(WizardFixture, PriorityAloneWritesVectorAndRoutineButNoEnable) {
               (std::vector<std::string>{"Timer 1 Interrupt:", "\t; Befehle ...", "reti"}));
 }
 
-TEST_F(WizardFixture, InterruptEnablesWithTriggers) {
+TEST_F(GeneratedProgramText, InterruptEnablesWithTriggers) {
     apply({"ICheck1(0)=1", "IOption1=1", "ICheck1(2)=1", "ICheck2(2)=1", "ICheck0=1"});
     EXPECT_EQ(block(lines(), "; Interrupts", 7),
               (std::vector<std::string>{
@@ -82,7 +84,7 @@ TEST_F(WizardFixture, InterruptEnablesWithTriggers) {
                   "setb EA\t; globale Interruptfreigabe"}));
 }
 
-TEST_F(WizardFixture, SerialMode0DropsSconAndFlags) {
+TEST_F(GeneratedProgramText, SerialMode0DropsSconAndFlags) {
     apply({"UCheck1=1", "UOption1=2", "UCheck2=1", "UCheck3=1"});
     EXPECT_TRUE(hasLine("mov SCON, #B0h\t; Modus 2, asynchron, 11 Bit, 187500 Baud"));
     set("UOption1", "0");
@@ -92,7 +94,7 @@ TEST_F(WizardFixture, SerialMode0DropsSconAndFlags) {
                                   "; Timer 0 im Modus 0 = 13-Bit Timer/Zähler."}));
 }
 
-TEST_F(WizardFixture, SerialReceiveByTimer1SendByTimer2) {
+TEST_F(GeneratedProgramText, SerialReceiveByTimer1SendByTimer2) {
     apply({"UCheck1=1", "UOption1=1", "UCheck3=1", "UCombo2=1", "UCombo4=9600"});
     EXPECT_EQ(block(lines(), "; Serieller Port", 13),
               (std::vector<std::string>{
@@ -114,7 +116,7 @@ TEST_F(WizardFixture, SerialReceiveByTimer1SendByTimer2) {
               "Timer 2.\r\n Geben Sie dazu den Timer 2 Interrupt frei.");
 }
 
-TEST_F(WizardFixture, SerialBothByTimer2AndTheT2exInput) {
+TEST_F(GeneratedProgramText, SerialBothByTimer2AndTheT2exInput) {
     apply({"UCheck1=1", "UOption1=3", "UCombo1=1", "UCombo2=1", "T2Check1=1"});
     EXPECT_EQ(block(lines(), "mov RCAP2L, #64h\t; Reloadwerte für", 5),
               (std::vector<std::string>{
@@ -128,7 +130,7 @@ TEST_F(WizardFixture, SerialBothByTimer2AndTheT2exInput) {
                 "Flanke setzt EXF2)"));
 }
 
-TEST_F(WizardFixture, TimerSectionsByModeSourceAndGate) {
+TEST_F(GeneratedProgramText, TimerSectionsByModeSourceAndGate) {
     apply({"T0Check1=1", "T1Check0=1", "T1Check1=1"});
     EXPECT_TRUE(
         hasLine("orl TMOD, #08\t; Gate Control. High-Pegel an INT0: Timer 0 läuft, "
@@ -167,7 +169,7 @@ TEST_F(WizardFixture, TimerSectionsByModeSourceAndGate) {
     EXPECT_TRUE(hasLine("; Timer 1 steht. Modus 3 ist für Timer 1 nicht verfügbar."));
 }
 
-TEST_F(WizardFixture, Timer0Mode3DescribesBothHalves) {
+TEST_F(GeneratedProgramText, Timer0Mode3DescribesBothHalves) {
     apply({"T0Combo1=3", "T0Check3=1"});
     EXPECT_EQ(
         block(lines(),
@@ -182,7 +184,7 @@ TEST_F(WizardFixture, Timer0Mode3DescribesBothHalves) {
             "setb TR1\t; High-Byte Timer 0 läuft separat als 8-Bit Timer"}));
 }
 
-TEST_F(WizardFixture, Timer2LinesHaveABlankBehindTheNumberSign) {
+TEST_F(GeneratedProgramText, Timer2LinesHaveABlankBehindTheNumberSign) {
     apply({"T2Check0=1", "T2Combo1=2", "T2Text4=9C", "T2Text5=FF", "T2Text3=FF", "ICheck1(5)=1"});
     EXPECT_EQ(block(lines(), "; Timer 2:", 6),
               (std::vector<std::string>{
@@ -211,7 +213,7 @@ TEST_F(WizardFixture, Timer2LinesHaveABlankBehindTheNumberSign) {
               "Timer 2 Interrupt aus.");
 }
 
-TEST_F(WizardFixture, SerialInterruptWithPortWritesMainLoopAndRoutines) {
+TEST_F(GeneratedProgramText, SerialInterruptWithPortWritesMainLoopAndRoutines) {
     apply({"UCheck1=1", "UOption1=1", "ICheck1(4)=1"});
     const auto l = lines();
     EXPECT_EQ(l[3], "#Bit Empfang, Sendebusy");
@@ -226,7 +228,7 @@ TEST_F(WizardFixture, SerialInterruptWithPortWritesMainLoopAndRoutines) {
                                         "\t\tsetb Empfang", "\tend if", "reti"}));
 }
 
-TEST_F(WizardFixture, ReloadsLongerThanTwoDigitsAreReckonedWithoutWrapping) {
+TEST_F(GeneratedProgramText, ReloadsLongerThanTwoDigitsAreReckonedWithoutWrapping) {
     // The dialog's fields take two digits; a value set otherwise is a number
     // all the same: 256 x 800000h is 2^31, past a 32-bit integer.
     apply({"T2Check0=1", "T2Combo1=8", "T2Text4=00", "T2Text5=800000"});

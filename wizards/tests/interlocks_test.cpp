@@ -9,12 +9,14 @@
 namespace korvex::wizards::testing {
 namespace {
 
+using TimerAndSerialInterlocks = WizardFixture;
+
 using Kind = ScriptedWizardHost::Kind;
 
 const char* const kTimer1Taken =
     "Timer 1 wird bereits als Baudratengenerator verwendet. Möchten Sie diese Zuordnung aufheben?";
 
-TEST_F(WizardFixture, Timer1ForOtherWorkWhileItTimesThePort) {
+TEST_F(TimerAndSerialInterlocks, Timer1ForOtherWorkWhileItTimesThePort) {
     apply({"UCheck1=1", "UOption1=1"});
     const std::string before = program();
 
@@ -26,7 +28,7 @@ TEST_F(WizardFixture, Timer1ForOtherWorkWhileItTimesThePort) {
     EXPECT_EQ(host_.boxes[0].title, "Konflikt");
     EXPECT_EQ(toUtf8(host_.boxes[0].text), kTimer1Taken);
     EXPECT_EQ(s().T1Check0.value, 0);
-    EXPECT_EQ(wizard_.revertPending, 0);
+    EXPECT_TRUE(wizard_.atRest());
     EXPECT_EQ(program(), before);
     EXPECT_FALSE(s().T1Combo1.enabled);
 
@@ -37,10 +39,10 @@ TEST_F(WizardFixture, Timer1ForOtherWorkWhileItTimesThePort) {
     EXPECT_EQ(s().UCheck1.value, 0);
     EXPECT_TRUE(s().T1Combo1.enabled && s().T1Text2.enabled && s().T1Check2.enabled);
     EXPECT_EQ(program().find("; Serieller Port"), std::string::npos);
-    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.atRest());
 }
 
-TEST_F(WizardFixture, Timer2ForOtherWorkWhileItTimesThePort) {
+TEST_F(TimerAndSerialInterlocks, Timer2ForOtherWorkWhileItTimesThePort) {
     apply({"UCheck1=1", "UOption1=1", "UCombo1=1", "UCombo2=1"});
     host_.answers = {false};
     set("T2Check0", "1");
@@ -49,11 +51,11 @@ TEST_F(WizardFixture, Timer2ForOtherWorkWhileItTimesThePort) {
               "Timer 2 wird bereits als Baudratengenerator verwendet.\r\n"
               "Möchten Sie diese Zuordnung aufheben?");
     EXPECT_EQ(s().T2Check0.value, 0);
-    EXPECT_EQ(wizard_.revertPending, 0);
+    EXPECT_TRUE(wizard_.atRest());
     EXPECT_EQ(s().UCheck1.value, 1);
 }
 
-TEST_F(WizardFixture, BothTimersBusyLeaveOnlyModes0And2) {
+TEST_F(TimerAndSerialInterlocks, BothTimersBusyLeaveOnlyModes0And2) {
     apply({"T1Check0=1", "T2Check0=1", "UCheck1=1"});
     EXPECT_EQ(boxTexts(Kind::Note),
               std::vector<std::string>{"Die Modi 1 und 3 stehen nicht zur Verfügung, weil Timer 1 "
@@ -66,7 +68,7 @@ TEST_F(WizardFixture, BothTimersBusyLeaveOnlyModes0And2) {
     EXPECT_THROW(set("UOption1", "1"), ControlUseError);
 }
 
-TEST_F(WizardFixture, BothTimersBusyKeepMode2) {
+TEST_F(TimerAndSerialInterlocks, BothTimersBusyKeepMode2) {
     apply({"UCheck1=1", "UOption1=2", "UCheck1=0", "T1Check0=1", "T2Check0=1", "UCheck1=1"});
     EXPECT_EQ(s().UOption1.selected, 2);
     EXPECT_EQ(boxTexts(Kind::Note).size(), 1u);
@@ -74,7 +76,7 @@ TEST_F(WizardFixture, BothTimersBusyKeepMode2) {
     EXPECT_TRUE(s().UCheck2.enabled);
 }
 
-TEST_F(WizardFixture, ModeTakesTimer1SilentlyWhileTheListAsks) {
+TEST_F(TimerAndSerialInterlocks, ModeTakesTimer1SilentlyWhileTheListAsks) {
     // The mode rule frees Timer 1 without a question ...
     apply({"UCheck1=1", "T1Check0=1"});
     EXPECT_TRUE(host_.boxes.empty());
@@ -104,14 +106,14 @@ TEST_F(WizardFixture, ModeTakesTimer1SilentlyWhileTheListAsks) {
     EXPECT_EQ(s().UCombo1.listIndex, 0);
 }
 
-TEST_F(WizardFixture, PortWithNeitherTimerBusyKeepsTheLists) {
+TEST_F(TimerAndSerialInterlocks, PortWithNeitherTimerBusyKeepsTheLists) {
     apply({"UCheck1=1", "UOption1=1", "UCombo2=1", "UCheck1=0", "UCheck1=1"});
     EXPECT_EQ(s().UCombo1.listIndex, 0);
     EXPECT_EQ(s().UCombo2.listIndex, 1);
     EXPECT_TRUE(host_.boxes.empty());
 }
 
-TEST_F(WizardFixture, GeneratorListsPairTimer2AndShowTheSecondRate) {
+TEST_F(TimerAndSerialInterlocks, GeneratorListsPairTimer2AndShowTheSecondRate) {
     apply({"UCheck1=1", "UOption1=1", "UCombo2=1"});
     EXPECT_TRUE(s().UCombo4.visible);
     EXPECT_EQ(s().UCombo3.width, 3165);
@@ -136,7 +138,7 @@ TEST_F(WizardFixture, GeneratorListsPairTimer2AndShowTheSecondRate) {
     EXPECT_TRUE(s().T2Check1.visible);
 }
 
-TEST_F(WizardFixture, Timer0Mode3SharesTimer1) {
+TEST_F(TimerAndSerialInterlocks, Timer0Mode3SharesTimer1) {
     set("T1Check0", "1");
     set("T0Combo1", "3");
     ASSERT_EQ(boxTexts(Kind::Note).size(), 1u);
@@ -171,7 +173,7 @@ TEST_F(WizardFixture, Timer0Mode3SharesTimer1) {
     EXPECT_EQ(s().T0Check3.value, 0);
 }
 
-TEST_F(WizardFixture, Timer1Mode3StopsBothRunBits) {
+TEST_F(TimerAndSerialInterlocks, Timer1Mode3StopsBothRunBits) {
     apply({"T1Check0=1", "T1Check2=1"});
     EXPECT_EQ(s().T0Check3.value, 1);
     set("T1Combo1", "3");
@@ -184,7 +186,7 @@ TEST_F(WizardFixture, Timer1Mode3StopsBothRunBits) {
     EXPECT_EQ(s().T1Label3.caption, "Reloadwert");
 }
 
-TEST_F(WizardFixture, CounterCaptionsAndTheFrequencyCommand) {
+TEST_F(TimerAndSerialInterlocks, CounterCaptionsAndTheFrequencyCommand) {
     set("T0Combo1", "2");
     EXPECT_TRUE(s().T0Command1.enabled);
     set("T0Option1", "1");
@@ -203,7 +205,7 @@ TEST_F(WizardFixture, CounterCaptionsAndTheFrequencyCommand) {
     EXPECT_TRUE(s().T0Command1.enabled);
 }
 
-TEST_F(WizardFixture, Timer2FunctionsEnableWhatTheyUse) {
+TEST_F(TimerAndSerialInterlocks, Timer2FunctionsEnableWhatTheyUse) {
     set("T2Check0", "1");
     struct Expect {
         int item;
@@ -223,7 +225,7 @@ TEST_F(WizardFixture, Timer2FunctionsEnableWhatTheyUse) {
     EXPECT_FALSE(s().T2Combo1.enabled);
 }
 
-TEST_F(WizardFixture, ReleasingTimer2RunsTheSerialRulesAgain) {
+TEST_F(TimerAndSerialInterlocks, ReleasingTimer2RunsTheSerialRulesAgain) {
     apply({"T2Check0=1", "UCheck1=1"});
     EXPECT_EQ(s().UCombo1.listIndex, 0);  // Timer 2 busy: both on Timer 1
     set("UOption1", "1");
@@ -239,10 +241,10 @@ TEST_F(WizardFixture, ReleasingTimer2RunsTheSerialRulesAgain) {
     EXPECT_TRUE(s().UOption1.buttons[1].enabled);
     EXPECT_EQ(s().UCombo1.listIndex, 1);
     EXPECT_EQ(s().UCombo2.listIndex, 1);
-    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.atRest());
 }
 
-TEST_F(WizardFixture, NoWithBothTimersBusyAsksOnce) {
+TEST_F(TimerAndSerialInterlocks, NoWithBothTimersBusyAsksOnce) {
     // Putting the lists back on the other timer must not ask about that one in
     // turn: with both timers busy the questions went back and forth forever.
     apply({"T2Check0=1", "UOption1=1"});
@@ -257,7 +259,7 @@ TEST_F(WizardFixture, NoWithBothTimersBusyAsksOnce) {
     EXPECT_EQ(s().UCombo2.listIndex, 1);
     EXPECT_EQ(s().T1Check0.value, 1);
     EXPECT_EQ(s().T2Check0.value, 1);
-    EXPECT_TRUE(wizard_.generationGuard.idle());
+    EXPECT_TRUE(wizard_.atRest());
 }
 
 }  // namespace

@@ -12,7 +12,7 @@
 #include "base/program_folder.h"
 #include "workbench/settings_file.h"
 #include "workbench/settings_store.h"
-#include "scripted_host.h"
+#include "testing/scripted_host.h"
 
 namespace korvex {
 namespace {

@@ -83,8 +83,11 @@ class Wizard {
                              int selectionLength = 0);
 
     const ControlRegistry& controls() const { return registry_; }
-    GenerationGuard generationGuard;
-    Int16 revertPending;
+    // No compound change is running and no list waits to be put back: what
+    // a dialog may rely on between two user actions.
+    bool atRest() const { return generationGuard_.idle() && revertPending_ == 0; }
+    // Whether an operation still holds the generation back (its guard code).
+    std::int16_t generationHeldBy() const { return generationGuard_.value(); }
 
   protected:
     using Handler = std::function<void(int index)>;
@@ -120,6 +123,8 @@ class Wizard {
     WizardHost& host_;
     WizardOptions options_;
     ControlRegistry registry_;
+    GenerationGuard generationGuard_;
+    Int16 revertPending_;
 
   private:
     void checkBinding(const std::string& name) const;
