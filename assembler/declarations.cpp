@@ -94,7 +94,7 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
             std::int16_t cls = ClassNone;
             parseBitOperand(valueText, cls, value);
             if (cls != ClassBit)
-                setRowMarker(text8(";>err50 ungültige Bitbezeichnung ") + valueText);
+                setRowMarker(findingMarker(Finding::InvalidBitName, valueText));
         } else {
             bool found = false;
             const std::string original = valueText;
@@ -105,14 +105,14 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
                 found = true;
             }
             if (!found) {
-                setRowMarker(";>err51 Zahl nicht erkannt: " + original);
+                setRowMarker(findingMarker(Finding::NumberNotRecognised, original));
                 return;
             }
         }
         switch (kind) {
             case kConstKind:
                 if (state_.constantTable.find(key) >= 0) {
-                    setRowMarker(";>err52 Konstante '" + key + "' ist bereits definiert");
+                    setRowMarker(findingMarker(Finding::ConstantDefinedTwice, key));
                     return;
                 }
                 storeDeclared(state_.constantTable, key, std::to_string(value), "");
@@ -120,7 +120,7 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
                 return;
             case kBitKind:
                 if (state_.bitTable.find(key) >= 0) {
-                    setRowMarker(";>err56 Bit '" + key + "' ist bereits definiert");
+                    setRowMarker(findingMarker(Finding::BitDefinedTwice, key));
                     return;
                 }
                 {
@@ -134,7 +134,7 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
                 return;
             case kByteKind:
                 if (state_.byteTable.find(key) >= 0) {
-                    setRowMarker(";>err59 Mehrfachdefinition von '" + key + "'");
+                    setRowMarker(findingMarker(Finding::ByteDefinedTwice, key));
                     return;
                 }
                 storeDeclared(state_.byteTable, key, std::to_string(value), written);
@@ -149,11 +149,11 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
 
     switch (kind) {
         case kConstKind:
-            setRowMarker(";>err53 falsche Konstantendeklaration (= fehlt)");
+            setRowMarker(findingMarker(Finding::ConstantWithoutValue));
             return;
         case kBitKind: {
             if (state_.bitTable.find(key) >= 0) {
-                setRowMarker(";>err54 Bit '" + key + "' ist bereits definiert");
+                setRowMarker(findingMarker(Finding::PlacedBitDefinedTwice, key));
                 return;
             }
             for (int address = 0x7F; address >= 0; --address) {
@@ -166,11 +166,11 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
         }
         case kByteKind: {
             if (state_.sfrTable.find(key) >= 0) {
-                setRowMarker(";>err57 '" + key + "' ist ein Spezialfunktionsregister.");
+                setRowMarker(findingMarker(Finding::ByteNamesSfr, key));
                 return;
             }
             if (state_.byteTable.find(key) >= 0) {
-                setRowMarker(";>err58 Mehrfachdefinition von '" + key + "'");
+                setRowMarker(findingMarker(Finding::PlacedByteDefinedTwice, key));
                 return;
             }
             for (int address = 0x7F; address >= 0; --address) {
@@ -188,11 +188,11 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
         }
         default: {
             if (state_.sfrTable.find(key) >= 0) {
-                setRowMarker(";>err60 SFR '" + key + "' hat denselben Namen.");
+                setRowMarker(findingMarker(Finding::WordNamesSfr, key));
                 return;
             }
             if (state_.wordTable.find(key) >= 0) {
-                setRowMarker(";>err61 Word '" + key + "' ist bereits definiert");
+                setRowMarker(findingMarker(Finding::WordDefinedTwice, key));
                 return;
             }
             for (int address = 0x7F; address >= 0; --address) {

@@ -30,7 +30,7 @@ bool Assembler::handleDirective(std::string& text) {
             } else if (choice == "LCALL") {
                 state_.useLongCall = true;
             } else {
-                state_.errorNumber = 1;
+                state_.errorNumber = Finding::InvalidOperandCombination;
             }
         } else if (startsWith(upper, "#BYTE ")) {
             declareList(text.substr(6), "BYTE");

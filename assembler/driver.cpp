@@ -56,7 +56,7 @@ void Assembler::resetRun() {
     state_.openForCount = 0;
     state_.openLoopCount = 0;
     state_.useLongCall = false;
-    state_.errorNumber = 0;
+    state_.errorNumber = Finding::None;
     state_.lineCounters.assign(2, Int16(0));
     state_.instructionBytes = {};
     state_.sourceTable.assign(1, SourceRow{});
@@ -116,7 +116,7 @@ bool Assembler::firstPass() {
             return false;
         }
         std::string line = file(state_.currentFile).readLine();
-        state_.errorNumber = 0;
+        state_.errorNumber = Finding::None;
         growRowsTo(state_.currentRow);
         state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].sourceText = line;
         prepareLine(line);
@@ -149,7 +149,7 @@ bool Assembler::secondPassOver() {
         // The rows behind keep their addresses, so a new length is noted for a warning.
         const int firstLength = codeTextLength(state_.codeText[static_cast<std::size_t>(row)]);
         processStatement(statement);
-        if (state_.errorNumber != 0) recordError();
+        if (state_.errorNumber != Finding::None) recordError();
         const int secondLength = codeTextLength(state_.codeText[static_cast<std::size_t>(row)]);
         if (secondLength != firstLength) {
             state_.lengthChanges.push_back({row, firstLength, secondLength});
@@ -234,10 +234,10 @@ std::string Assembler::positionText() const {
 void Assembler::recordError() {
     growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
-    const int number = state_.errorNumber;
+    const int number = findingNumber(state_.errorNumber);
     if (findingKind(number) == FindingKind::Retried) row.retryMark = "?";
     row.marker = catalogueMarker(number);
-    state_.errorNumber = 0;
+    state_.errorNumber = Finding::None;
 }
 
 }  // namespace korvex

@@ -79,7 +79,7 @@ void Assembler::readCpuDriver(const std::string& head, const std::string& tail) 
     if (reading.failure) {
         host_.messageBox("Korvex", driverFailureText(reading), MessageButtons::Ok,
                          MessageIcon::Critical);
-        state_.errorNumber = 199;
+        state_.errorNumber = Finding::DriverUnreadable;
         return;
     }
     state_.firstUserBit = state_.bitTable.lastIndex();

@@ -82,7 +82,7 @@ void Assembler::encodeInstruction() {
         case Family::Table:
             // Tables write their own code text and move the counter themselves.
             compileTable();
-            if (state_.errorNumber != 0) recordError();
+            if (state_.errorNumber != Finding::None) recordError();
             return;
         case Family::Org:
             if (encodeOrg()) return;
@@ -92,7 +92,7 @@ void Assembler::encodeInstruction() {
             break;
         case Family::Else:
             if (!t[1].empty()) {
-                state_.errorNumber = 1;
+                state_.errorNumber = Finding::InvalidOperandCombination;
             } else if (!compileElse()) {
                 return;
             }
@@ -120,7 +120,7 @@ void Assembler::encodeInstruction() {
             break;
         case Family::For:
             if (!t[2].empty()) {
-                state_.errorNumber = 32;
+                state_.errorNumber = Finding::SyntaxError;
             } else if (!compileFor()) {
                 return;
             }
@@ -133,7 +133,7 @@ void Assembler::encodeInstruction() {
             setCodeText(std::string(kFourTabs));
             return;
         case Family::Hash:
-            state_.errorNumber = 29;  // the line had a blank behind "#"
+            state_.errorNumber = Finding::BlankBehindHash;  // the line had a blank behind "#"
             break;
         case Family::None:
             if (startsWith(mnemonic, "CPU=")) {
@@ -149,7 +149,7 @@ void Assembler::encodeInstruction() {
 }
 
 void Assembler::writeListingTail() {
-    if (state_.errorNumber != 0) recordError();
+    if (state_.errorNumber != Finding::None) recordError();
     const int length = state_.instructionLength;
     growRowsTo(state_.currentRow);
     std::string& text = state_.codeText[static_cast<std::size_t>(state_.currentRow)];
@@ -166,7 +166,7 @@ void Assembler::writeListingTail() {
 }
 
 void Assembler::genericError() {
-    if (state_.errorNumber == 0) state_.errorNumber = 1;
+    if (state_.errorNumber == Finding::None) state_.errorNumber = Finding::InvalidOperandCombination;
 }
 
 void Assembler::storeByte(int index, std::int64_t value) {
@@ -189,11 +189,11 @@ bool Assembler::encodeOrg() {
     bool found = false;
     evaluateExpression(state_.tokens[1], value, found);
     if (!found) {
-        state_.errorNumber = 9;
+        state_.errorNumber = Finding::OrgAddressNotRecognised;
         return false;  // the failed ORG takes the tail with length 0
     }
     if (state_.codeAddress > value) {
-        state_.errorNumber = 11;
+        state_.errorNumber = Finding::AddressInWrittenRange;
         recordError();
     }
     state_.codeAddress = value;
@@ -203,7 +203,7 @@ bool Assembler::encodeOrg() {
 
 void Assembler::encodeEnd() {
     // The program stop of the language: an endless SJMP onto itself.
-    if (!state_.tokens[1].empty() || !state_.tokens[2].empty()) state_.errorNumber = 32;
+    if (!state_.tokens[1].empty() || !state_.tokens[2].empty()) state_.errorNumber = Finding::SyntaxError;
     state_.instructionLength = 2;
     storeByte(0, 0x80);
     storeByte(1, 0xFE);
@@ -239,12 +239,12 @@ void Assembler::encodeImplicitCall() {
             storeByte(1, target % 256);
         } else {
             row.retryMark = "?";
-            state_.errorNumber = 5;
+            state_.errorNumber = Finding::BlockBoundaryCrossed;
         }
     } else {
         // The second pass then sees an ordinary call statement.
         row.retryMark = "?";
-        state_.errorNumber = 28;
+        state_.errorNumber = Finding::InstructionNotRecognised;
         row.statement = (state_.useLongCall ? "LCALL " : "ACALL ") + row.statement;
     }
 }

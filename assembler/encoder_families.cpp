@@ -8,11 +8,11 @@
 namespace korvex {
 namespace {
 
-// Value above 255: keep the low byte and report `number`.
-void maskByte(std::int32_t& value, Int16& errorNumber, int number) {
+// Value above 255: keep the low byte and report `finding`.
+void maskByte(std::int32_t& value, Finding& errorNumber, Finding finding) {
     if (value > 255) {
         value &= 0xFF;
-        errorNumber = number;
+        errorNumber = finding;
     }
 }
 
@@ -29,12 +29,12 @@ void Assembler::encodeArithmetic() {
     std::int16_t cls = ClassNone;
     std::int32_t value = 0;
     classifyOperand(t[2], cls, value);
-    maskByte(value, state_.errorNumber, 31);
+    maskByte(value, state_.errorNumber, Finding::ValueTooLarge);
     if (cls != ClassRegister && cls != ClassIndirect) state_.instructionLength = 2;
     switch (cls) {
         case ClassImmediate:
             if (t[0] == "XCH") {
-                state_.errorNumber = 1;
+                state_.errorNumber = Finding::InvalidOperandCombination;
             } else {
                 storeByte(1, value);
             }
@@ -64,7 +64,7 @@ void Assembler::encodeIncDec() {
     std::int16_t cls = ClassNone;
     std::int32_t value = 0;
     classifyOperand(t[1], cls, value);
-    maskByte(value, state_.errorNumber, 4);
+    maskByte(value, state_.errorNumber, Finding::InvalidDirectAddress);
     switch (cls) {
         case ClassAccumulator: break;
         case ClassDirect:
@@ -83,7 +83,7 @@ void Assembler::encodeIncDec() {
 void Assembler::encodeMulDiv() {
     auto& t = state_.tokens;
     if (t[1] != "AB" || !t[2].empty()) {
-        state_.errorNumber = 1;
+        state_.errorNumber = Finding::InvalidOperandCombination;
         return;
     }
     storeByte(0, t[0] == "MUL" ? 0xA4 : 0x84);
@@ -93,7 +93,7 @@ void Assembler::encodeAccumulatorOrBit() {
     auto& t = state_.tokens;
     const std::string& m = t[0];
     if (!t[2].empty() || t[1].empty()) {
-        state_.errorNumber = 1;
+        state_.errorNumber = Finding::InvalidOperandCombination;
         return;
     }
     if (t[1] == "A") {
@@ -106,7 +106,7 @@ void Assembler::encodeAccumulatorOrBit() {
                 return;
             }
         }
-        state_.errorNumber = 1;  // SETB A
+        state_.errorNumber = Finding::InvalidOperandCombination;  // SETB A
         return;
     }
     const bool bitForm = m == "CLR" || m == "CPL" || m == "SETB";
@@ -114,7 +114,7 @@ void Assembler::encodeAccumulatorOrBit() {
         if (bitForm) {
             storeByte(0, m == "CLR" ? 0xC3 : m == "CPL" ? 0xB3 : 0xD3);
         } else {
-            state_.errorNumber = 1;
+            state_.errorNumber = Finding::InvalidOperandCombination;
         }
         return;
     }
@@ -122,13 +122,13 @@ void Assembler::encodeAccumulatorOrBit() {
     std::int16_t cls = ClassNone;
     std::int32_t bit = 0;
     parseBitOperand(t[1], cls, bit);
-    maskByte(bit, state_.errorNumber, 8);
-    if (cls != ClassBit) state_.errorNumber = 8;
+    maskByte(bit, state_.errorNumber, Finding::BitNotRecognised);
+    if (cls != ClassBit) state_.errorNumber = Finding::BitNotRecognised;
     storeByte(1, bit);
     if (bitForm) {
         storeByte(0, m == "CLR" ? 0xC2 : m == "CPL" ? 0xB2 : 0xD2);
     } else {
-        state_.errorNumber = 1;
+        state_.errorNumber = Finding::InvalidOperandCombination;
     }
 }
 
@@ -146,7 +146,7 @@ void Assembler::encodeLogic() {
         std::int16_t cls = ClassNone;
         std::int32_t bit = 0;
         parseBitOperand(t[2], cls, bit);
-        if (cls != ClassBit) state_.errorNumber = 8;
+        if (cls != ClassBit) state_.errorNumber = Finding::BitNotRecognised;
         storeByte(1, bit);
         return;
     }
@@ -156,7 +156,7 @@ void Assembler::encodeLogic() {
         std::int16_t cls = ClassNone;
         std::int32_t value = 0;
         classifyOperand(t[2], cls, value);
-        maskByte(value, state_.errorNumber, 31);
+        maskByte(value, state_.errorNumber, Finding::ValueTooLarge);
         switch (cls) {
             case ClassImmediate: storeByte(1, value); break;
             case ClassDirect:
@@ -179,7 +179,7 @@ void Assembler::encodeLogic() {
         std::int16_t cls = ClassNone;
         std::int32_t direct = 0;
         classifyOperand(t[1], cls, direct);
-        maskByte(direct, state_.errorNumber, 4);
+        maskByte(direct, state_.errorNumber, Finding::InvalidDirectAddress);
         if (cls == ClassDirect) {
             storeByte(0, base - 2);
             storeByte(1, direct);
@@ -196,8 +196,8 @@ void Assembler::encodeLogic() {
         std::int32_t immediate = 0;
         classifyOperand(t[1], directClass, direct);
         classifyOperand(t[2], immediateClass, immediate);
-        maskByte(direct, state_.errorNumber, 4);
-        maskByte(immediate, state_.errorNumber, 13);
+        maskByte(direct, state_.errorNumber, Finding::InvalidDirectAddress);
+        maskByte(immediate, state_.errorNumber, Finding::ImmediateTooLarge);
         if (directClass == ClassDirect && immediateClass == ClassImmediate) {
             storeByte(0, base - 1);
             storeByte(1, direct);
@@ -220,8 +220,8 @@ void Assembler::encodePushPop() {
     std::int16_t cls = ClassNone;
     std::int32_t direct = 0;
     classifyOperand(t[1], cls, direct);
-    maskByte(direct, state_.errorNumber, 4);
-    if (cls != ClassDirect) state_.errorNumber = 7;
+    maskByte(direct, state_.errorNumber, Finding::InvalidDirectAddress);
+    if (cls != ClassDirect) state_.errorNumber = Finding::VariableNotRecognised;
     storeByte(0, t[0] == "PUSH" ? 0xC0 : 0xD0);
     storeByte(1, direct);
 }
@@ -256,7 +256,7 @@ void Assembler::encodeMovxMovc() {
             return;
         }
     }
-    state_.errorNumber = 1;
+    state_.errorNumber = Finding::InvalidOperandCombination;
 }
 
 void Assembler::encodeMov() {
@@ -280,7 +280,7 @@ void Assembler::encodeMov() {
         std::int16_t cls = ClassNone;
         std::int32_t value = 0;
         classifyOperand(toAccumulator ? t[2] : t[1], cls, value);
-        maskByte(value, state_.errorNumber, 31);
+        maskByte(value, state_.errorNumber, Finding::ValueTooLarge);
         switch (cls) {
             case ClassRegister: storeByte(0, (toAccumulator ? 0xE8 : 0xF8) + value); break;
             case ClassIndirect: storeByte(0, (toAccumulator ? 0xE6 : 0xF6) + value); break;
@@ -328,8 +328,8 @@ void Assembler::encodeMovDirectForms() {
     std::int32_t source = 0;
     classifyOperand(t[1], destinationClass, destination);
     classifyOperand(t[2], sourceClass, source);
-    maskByte(source, state_.errorNumber, 13);
-    maskByte(destination, state_.errorNumber, 4);
+    maskByte(source, state_.errorNumber, Finding::ImmediateTooLarge);
+    maskByte(destination, state_.errorNumber, Finding::InvalidDirectAddress);
     const bool directDestination = destinationClass == ClassDirect;
     state_.instructionLength =
         directDestination && (sourceClass == ClassImmediate || sourceClass == ClassDirect) ? 3 : 2;
@@ -365,7 +365,7 @@ void Assembler::encodeMovDirectForms() {
         storeByte(2, destination);
     } else if (destinationClass == ClassRegister || destinationClass == ClassIndirect ||
                sourceClass == ClassRegister || sourceClass == ClassIndirect) {
-        state_.errorNumber = 1;
+        state_.errorNumber = Finding::InvalidOperandCombination;
     } else {
         genericError();
     }
@@ -374,7 +374,7 @@ void Assembler::encodeMovDirectForms() {
 void Assembler::encodeReturnOrNop() {
     auto& t = state_.tokens;
     if (!t[1].empty() || !t[2].empty()) {
-        state_.errorNumber = 1;
+        state_.errorNumber = Finding::InvalidOperandCombination;
         return;
     }
     storeByte(0, t[0] == "RET" ? 0x22 : t[0] == "RETI" ? 0x32 : 0x00);
@@ -389,9 +389,9 @@ void Assembler::encodeConditionalJump() {
     evaluateExpression(t[1], target, found);
     storeByte(0, m == "JC" ? 0x40 : m == "JNC" ? 0x50 : m == "JZ" ? 0x60 : m == "JNZ" ? 0x70 : 0x80);
     if (!t[2].empty()) {
-        state_.errorNumber = 1;
+        state_.errorNumber = Finding::InvalidOperandCombination;
     } else if (!found) {
-        state_.errorNumber = 6;
+        state_.errorNumber = Finding::UnknownInstructionOrTarget;
     } else {
         storeByte(1, relativeOffset(target, 2));
     }
@@ -408,7 +408,7 @@ void Assembler::encodeBitJump() {
     std::int32_t bit = 0;
     parseBitOperand(t[1], cls, bit);
     if (cls != ClassBit) {
-        state_.errorNumber = 8;
+        state_.errorNumber = Finding::BitNotRecognised;
         return;
     }
     storeByte(0, m == "JB" ? 0x20 : m == "JNB" ? 0x30 : 0x10);
@@ -416,7 +416,7 @@ void Assembler::encodeBitJump() {
     if (found) {
         storeByte(2, relativeOffset(target, 3));
     } else {
-        state_.errorNumber = 6;
+        state_.errorNumber = Finding::UnknownInstructionOrTarget;
     }
 }
 
@@ -429,8 +429,8 @@ void Assembler::encodeDjnz() {
     std::int32_t counter = 0;
     classifyOperand(t[1], cls, counter);
     state_.instructionLength = cls == ClassRegister ? 2 : 3;
-    maskByte(counter, state_.errorNumber, 4);
-    if (!found) state_.errorNumber = 6;
+    maskByte(counter, state_.errorNumber, Finding::InvalidDirectAddress);
+    if (!found) state_.errorNumber = Finding::UnknownInstructionOrTarget;
     if (cls == ClassRegister) {
         storeByte(0, 0xD8 + counter);
         if (found) storeByte(1, relativeOffset(target, 2));
@@ -452,7 +452,7 @@ void Assembler::encodeCjne() {
     if (found) {
         storeByte(2, relativeOffset(target, 3));
     } else {
-        state_.errorNumber = 6;
+        state_.errorNumber = Finding::UnknownInstructionOrTarget;
     }
     std::int16_t leftClass = ClassNone;
     std::int16_t rightClass = ClassNone;
@@ -460,7 +460,7 @@ void Assembler::encodeCjne() {
     std::int32_t right = 0;
     classifyOperand(t[1], leftClass, left);
     classifyOperand(t[2], rightClass, right);
-    maskByte(right, state_.errorNumber, rightClass == ClassImmediate ? 13 : 4);
+    maskByte(right, state_.errorNumber, rightClass == ClassImmediate ? Finding::ImmediateTooLarge : Finding::InvalidDirectAddress);
     storeByte(1, right);
     if (!storeCompareOpcode(leftClass, left, rightClass)) genericError();
 }
@@ -485,7 +485,7 @@ bool Assembler::storeCompareOpcode(std::int16_t leftClass, std::int32_t left,
 void Assembler::encodeLongJumpOrCall() {
     auto& t = state_.tokens;
     if (!t[2].empty()) {
-        state_.errorNumber = 1;
+        state_.errorNumber = Finding::InvalidOperandCombination;
         return;
     }
     // Ahead of the split between jump and call: CALL @A+DPTR is JMP @A+DPTR.
@@ -501,14 +501,14 @@ void Assembler::encodeLongJumpOrCall() {
     if (found) {
         storeLongTarget(target);
     } else {
-        state_.errorNumber = 6;
+        state_.errorNumber = Finding::UnknownInstructionOrTarget;
     }
 }
 
 void Assembler::encodeAbsoluteJumpOrCall() {
     auto& t = state_.tokens;
     if (!t[2].empty()) {
-        state_.errorNumber = 1;
+        state_.errorNumber = Finding::InvalidOperandCombination;
         return;
     }
     state_.instructionLength = 2;
@@ -516,11 +516,11 @@ void Assembler::encodeAbsoluteJumpOrCall() {
     bool found = false;
     evaluateExpression(t[1], target, found);
     if (!found) {
-        if (state_.errorNumber == 0) state_.errorNumber = 6;
+        if (state_.errorNumber == Finding::None) state_.errorNumber = Finding::UnknownInstructionOrTarget;
         return;
     }
     if (!sameBlock(state_.codeAddress + 2, target)) {
-        state_.errorNumber = 5;
+        state_.errorNumber = Finding::BlockBoundaryCrossed;
         return;
     }
     storeByte(0, (t[0] == "AJMP" ? 0x01 : 0x11) + 32 * ((target / 256) % 8));

@@ -95,6 +95,48 @@ FindingKind findingKind(int number) {
                                : FindingKind::Retried;
 }
 
+std::string findingMarker(Finding finding, std::string_view subject) {
+    struct Text {
+        Finding finding;
+        std::string_view before;  // UTF-8 in the source
+        std::string_view after;   // behind the subject
+    };
+    static constexpr Text kTexts[] = {
+        {Finding::InvalidBitName, "ungültige Bitbezeichnung ", ""},
+        {Finding::NumberNotRecognised, "Zahl nicht erkannt: ", ""},
+        {Finding::ConstantDefinedTwice, "Konstante '", "' ist bereits definiert"},
+        {Finding::ConstantWithoutValue, "falsche Konstantendeklaration (= fehlt)", ""},
+        {Finding::PlacedBitDefinedTwice, "Bit '", "' ist bereits definiert"},
+        {Finding::BitDefinedTwice, "Bit '", "' ist bereits definiert"},
+        {Finding::ByteNamesSfr, "'", "' ist ein Spezialfunktionsregister."},
+        {Finding::PlacedByteDefinedTwice, "Mehrfachdefinition von '", "'"},
+        {Finding::ByteDefinedTwice, "Mehrfachdefinition von '", "'"},
+        {Finding::WordNamesSfr, "SFR '", "' hat denselben Namen."},
+        {Finding::WordDefinedTwice, "Word '", "' ist bereits definiert"},
+        {Finding::ExitOutOfRange, "relativer Adressbereich überschritten", ""},
+        {Finding::ExitConditionInvalid, "ungültige Operandenkombination", ""},
+        {Finding::MacroDefinedTwice, "doppelte Definition", ""},
+        {Finding::MacroBracesMissing, "es fehlen {}", ""},
+        {Finding::IncludeNotFound, "Include-Datei nicht gefunden: ", ""},
+        {Finding::MacroArgumentsMissing, "Argumente fehlen", ""},
+        {Finding::LabelDefinedTwice, "Label bereits definiert", ""},
+    };
+    std::string marker = ";>err" + std::to_string(findingNumber(finding)) + " ";
+    for (const Text& text : kTexts) {
+        if (text.finding != finding) continue;
+        marker += text8(text.before);
+        marker += subject;
+        marker += text8(text.after);
+        return marker;
+    }
+    return marker + std::string(subject);
+}
+
+std::string tableItemMarker(std::string_view item) {
+    return ";>err" + std::to_string(findingNumber(Finding::VariableNotRecognised)) + " " +
+           std::string(item) + " nicht erkannt.";
+}
+
 std::string catalogueMarker(int number) {
     if (!inCatalogue(number)) return ";>err" + std::to_string(number) + ": ";
     return convertedMarkers()[static_cast<std::size_t>(number)];

@@ -106,7 +106,7 @@ void Assembler::evaluatePart(std::string_view text, std::int32_t& value, bool& f
         const std::string_view right = text.substr(split + 1);
         if (left.empty() && !right.empty() && (op == '+' || op == '-')) left = "0";
         if (left.empty() || right.empty()) {
-            state_.errorNumber = 39;
+            state_.errorNumber = Finding::InvalidExpression;
             found = false;
             return;
         }
@@ -117,7 +117,7 @@ void Assembler::evaluatePart(std::string_view text, std::int32_t& value, bool& f
         evaluatePart(left, leftValue, leftFound, nullptr);
         evaluatePart(right, rightValue, rightFound, nullptr);
         if (!leftFound || !rightFound) {
-            if (state_.errorNumber == 0) state_.errorNumber = 7;
+            if (state_.errorNumber == Finding::None) state_.errorNumber = Finding::VariableNotRecognised;
             found = false;
             return;
         }
@@ -131,7 +131,7 @@ void Assembler::evaluatePart(std::string_view text, std::int32_t& value, bool& f
                 break;
             default:
                 if (rightValue == 0) {
-                    state_.errorNumber = 40;
+                    state_.errorNumber = Finding::DivisionByZero;
                     return;
                 }
                 value = checkedInt32(static_cast<std::int64_t>(

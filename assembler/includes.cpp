@@ -42,7 +42,7 @@ void Assembler::openInclude(const std::string& text) {
     const std::string path = findFileIgnoringCase(named);
     if (!fileExists(path)) {
         host_.appendDialogText("kann " + shown + " nicht finden." + std::string(kCrLf));
-        setRowMarker(";>err66 Include-Datei nicht gefunden: " + shown);
+        setRowMarker(findingMarker(Finding::IncludeNotFound, shown));
         return;
     }
     // The text is taken before any bookkeeping changes: a file that can't be

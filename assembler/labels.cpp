@@ -19,14 +19,14 @@ void Assembler::defineLabel(std::string& text, const std::string& position) {
     if (row >= 0 && row < driver_.vectorCount) {
         // A vector name continues the code at that vector, no ORG needed.
         if (state_.numberResult < state_.codeAddress) {
-            state_.errorNumber = 11;
+            state_.errorNumber = Finding::AddressInWrittenRange;
             recordError();
         }
         state_.codeAddress = state_.numberResult;
     } else if (row >= 0) {
         growRowsTo(state_.currentRow);
         state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].marker =
-            ";>err68 Label bereits definiert";
+            findingMarker(Finding::LabelDefinedTwice);
         ++state_.currentRow;
         return;
     } else {

@@ -46,8 +46,8 @@ void Assembler::prepareLine(std::string& line) {
             if (c == '}') inBraces = false;
             if (c == ':' && !inQuote && !inBraces) colons.push_back(i);
         }
-        if (inQuote) state_.errorNumber = 17;
-        if (inBraces) state_.errorNumber = 32;
+        if (inQuote) state_.errorNumber = Finding::QuoteError;
+        if (inBraces) state_.errorNumber = Finding::SyntaxError;
     }
     colons.push_back(line.size());
 
@@ -81,7 +81,7 @@ void Assembler::processStatement(std::string& text) {
     splitTokens(text);
 
     if (!state_.secondPass) row.position = positionText();
-    if (state_.errorNumber == 0) {
+    if (state_.errorNumber == Finding::None) {
         encodeInstruction();
     } else {
         recordError();
@@ -96,14 +96,14 @@ void Assembler::foldCharacterLiterals(std::string& text) {
         state_.numberResult = 0;
         const std::size_t close = text.find('\'', open + 1);
         if (close == std::string::npos) {
-            state_.errorNumber = 17;
+            state_.errorNumber = Finding::QuoteError;
             return;
         }
         const std::string quoted = text.substr(open, close - open + 1);
         std::string characters = text.substr(open + 1, close - open - 1);
         if (characters.size() > 2) {
             characters.resize(2);
-            state_.errorNumber = 12;
+            state_.errorNumber = Finding::StringTooLong;
         }
         for (char c : characters) {
             state_.numberResult = state_.numberResult * 256 + static_cast<unsigned char>(c);
@@ -120,7 +120,7 @@ void Assembler::splitTokens(const std::string& text) {
     const std::size_t secondComma =
         comma == std::string::npos ? std::string::npos : text.find(',', comma + 1);
     if (blank != std::string::npos && comma != std::string::npos && comma < blank) {
-        state_.errorNumber = 32;
+        state_.errorNumber = Finding::SyntaxError;
         return;
     }
     if (blank == std::string::npos) {

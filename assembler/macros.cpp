@@ -53,7 +53,7 @@ void Assembler::defineMacro(const std::string& text) {
     const std::size_t close = open == std::string::npos ? std::string::npos : text.find('}', open);
     if (close != std::string::npos && close + 1 > 255) raise(FailureNumber::Overflow);
     if (open == std::string::npos || close == std::string::npos) {
-        setRowMarker(";>err65 es fehlen {}");
+        setRowMarker(findingMarker(Finding::MacroBracesMissing));
         return;
     }
     constexpr std::size_t kKeywordLength = 5;  // "#DEF "
@@ -63,7 +63,7 @@ void Assembler::defineMacro(const std::string& text) {
         text.substr(kKeywordLength, (withParameters ? paren : open) - kKeywordLength);
     const std::string name = upperCase(trimBlanks(writtenName));
     if (findInList(name, state_.macroNames) >= 0) {
-        setRowMarker(";>err64 doppelte Definition");
+        setRowMarker(findingMarker(Finding::MacroDefinedTwice));
         return;
     }
     std::string parameters;
@@ -142,7 +142,7 @@ void Assembler::expandMacros(std::string& line) {
 void Assembler::expandMacroCall(std::string& line, std::int32_t& macro) {
     const auto index = static_cast<std::size_t>(macro);
     if (line.find('(') == std::string::npos || line.find(')') == std::string::npos) {
-        setRowMarker(";>err67 Argumente fehlen");
+        setRowMarker(findingMarker(Finding::MacroArgumentsMissing));
         return;
     }
     const std::string& name = state_.macroNames[index];

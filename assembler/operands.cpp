@@ -104,7 +104,7 @@ void Assembler::parseBitOperand(std::string& text, std::int16_t& operandClass,
 std::int32_t Assembler::relativeOffset(std::int32_t target, std::int32_t length) {
     const std::int64_t offset = std::int64_t{target} - state_.codeAddress - length;
     if (offset >= -128 && offset <= 127) return static_cast<std::int32_t>(offset & 0xFF);
-    state_.errorNumber = 21;
+    state_.errorNumber = Finding::RelativeRangeExceeded;
     return 0;
 }
 

@@ -9,8 +9,6 @@
 namespace korvex {
 namespace {
 
-const char* const kOutOfRange = ";>err62 relativer Adressbereich \xFC" "berschritten";
-
 // The leading number of a text, as the classic Val reads it: "1C" is 1.
 std::int32_t leadingNumber(const std::string& text) {
     std::int32_t value = 0;
@@ -34,7 +32,7 @@ void Assembler::growForNewRow() {
 
 void Assembler::markOutOfRange(std::int32_t line) {
     growRowsTo(line);
-    state_.sourceTable[static_cast<std::size_t>(line)].marker = kOutOfRange;
+    state_.sourceTable[static_cast<std::size_t>(line)].marker = findingMarker(Finding::ExitOutOfRange);
 }
 
 void Assembler::patchLastByte(std::int32_t line, std::int32_t length, std::int32_t distance) {
@@ -109,11 +107,11 @@ bool Assembler::compileConditionForm(const std::string& text, bool jumpWhenTrue)
     std::int32_t bit = 0;
     parseBitOperand(operand, cls, bit);
     if (bare && cls != ClassBit) {
-        state_.errorNumber = 32;
+        state_.errorNumber = Finding::SyntaxError;
         return true;
     }
     state_.instructionLength = 3;
-    if (cls != ClassBit) state_.errorNumber = 8;
+    if (cls != ClassBit) state_.errorNumber = Finding::BitNotRecognised;
     storeByte(1, bit);
     // JB (20h) branches on a set bit, JNB (30h) on a clear one.
     storeByte(0, bitClear != jumpWhenTrue ? 0x20 : 0x30);
@@ -136,11 +134,11 @@ void Assembler::compileCondition(std::string text) {
     state_.tokens[2] = right;
     if (rightValue > 255) {
         rightValue &= 0xFF;
-        state_.errorNumber = rightClass == ClassImmediate ? 13 : 4;
+        state_.errorNumber = rightClass == ClassImmediate ? Finding::ImmediateTooLarge : Finding::InvalidDirectAddress;
     }
     state_.instructionLength = 3;
     storeByte(1, rightValue);
-    if (!storeCompareOpcode(leftClass, leftValue, rightClass)) state_.errorNumber = 1;
+    if (!storeCompareOpcode(leftClass, leftValue, rightClass)) state_.errorNumber = Finding::InvalidOperandCombination;
     if (state_.secondPass) {
         // The retried row reads its offset back as decimal text: "1C" comes back as 1.
         const std::string& code = state_.codeText.at(static_cast<std::size_t>(state_.currentRow));
@@ -205,7 +203,7 @@ bool Assembler::compileIf() {
 bool Assembler::compileElse() {
     if (state_.secondPass) return true;
     if (state_.openIfCount == 0) {
-        state_.errorNumber = 22;
+        state_.errorNumber = Finding::ElseOrEndIfWithoutIf;
         state_.instructionLength = 0;
         return true;
     }
@@ -213,7 +211,7 @@ bool Assembler::compileElse() {
     if (state_.tokens[3] == "1") {
         state_.instructionLength = 0;
     } else {
-        if (top.elseSeen != 0) state_.errorNumber = 35;
+        if (top.elseSeen != 0) state_.errorNumber = Finding::ElseTwice;
         top.elseSeen = 1;
         state_.instructionLength = 2;
         storeByte(0, 0x80);
@@ -235,11 +233,11 @@ bool Assembler::compileElseIf() {
     state_.instructionLength = 2;
     if (!state_.secondPass) {
         if (state_.openIfCount == 0) {
-            state_.errorNumber = 38;
+            state_.errorNumber = Finding::ElseWithoutIf;
             return true;
         }
         if (state_.ifStack[static_cast<std::size_t>(state_.openIfCount - 1)].elseSeen != 0) {
-            state_.errorNumber = 37;
+            state_.errorNumber = Finding::ElseIfAfterElse;
             return true;
         }
         // The part before ends with a jump to behind END IF ...
@@ -262,7 +260,7 @@ bool Assembler::compileElseIf() {
 
 bool Assembler::compileEndIf() {
     if (state_.openIfCount == 0) {
-        state_.errorNumber = 22;
+        state_.errorNumber = Finding::ElseOrEndIfWithoutIf;
     } else {
         --state_.openIfCount;
         IfRow& row = state_.ifStack[static_cast<std::size_t>(state_.openIfCount.value())];
@@ -273,7 +271,7 @@ bool Assembler::compileEndIf() {
         resolveExits(state_.exitIfPatches, state_.openIfCount, state_.codeAddress, 0);
     }
     // END IF has no code of its own.
-    if (state_.errorNumber != 0) recordError();
+    if (state_.errorNumber != Finding::None) recordError();
     setCodeText(std::string(kFourTabs));
     return false;
 }
@@ -288,7 +286,7 @@ bool Assembler::compileExit() {
     } else if (t[1] == "IF") {
         compileExitIf();
     } else {
-        state_.errorNumber = 15;
+        state_.errorNumber = Finding::InvalidExit;
     }
     return true;
 }
@@ -304,7 +302,7 @@ void Assembler::compileExitIf() {
         state_.instructionLength = 2;
     }
     if (state_.openIfCount < levels) {
-        state_.errorNumber = 25;
+        state_.errorNumber = Finding::ExitIfImpossible;
         recordError();
         return;
     }
@@ -317,7 +315,7 @@ void Assembler::compileExitFor() {
         state_.instructionLength = 2;
     }
     if (state_.openForCount < 1) {
-        state_.errorNumber = 26;
+        state_.errorNumber = Finding::ExitForOutsideFor;
         recordError();
         return;
     }
@@ -330,7 +328,7 @@ void Assembler::compileExitLoop() {
         state_.instructionLength = 2;
     }
     if (state_.openLoopCount < 1) {
-        state_.errorNumber = 27;
+        state_.errorNumber = Finding::ExitLoopOutsideLoop;
         recordError();
         return;
     }
@@ -354,12 +352,12 @@ bool Assembler::compileFor() {
     classifyOperand(t[1], cls, counter);
     if (cls != ClassRegister && cls != ClassDirect) {
         state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].marker +=
-            text8(";>err63 ungültige Operandenkombination");
+            findingMarker(Finding::ExitConditionInvalid);
         return false;
     }
     if (counter > 255) {
         counter &= 0xFF;
-        state_.errorNumber = 4;
+        state_.errorNumber = Finding::InvalidDirectAddress;
     }
     const auto level = static_cast<std::size_t>(state_.openForCount.value());
     if (state_.forStack.size() <= level) state_.forStack.resize(level + 1);
@@ -370,7 +368,7 @@ bool Assembler::compileFor() {
 
 bool Assembler::compileNext() {
     if (state_.openForCount == 0) {
-        state_.errorNumber = 23;
+        state_.errorNumber = Finding::NextWithoutFor;
         state_.instructionLength = 3;
         return true;
     }
@@ -393,7 +391,7 @@ bool Assembler::compileLoop() {
     if (startsWith(field, "WHILE")) {
         const std::string condition = field.substr(5);
         if (condition.empty()) {
-            state_.errorNumber = 20;
+            state_.errorNumber = Finding::LoopSyntaxError;
             return true;
         }
         state_.instructionLength = 2;
@@ -412,7 +410,7 @@ bool Assembler::compileLoop() {
         ++state_.openLoopCount;
         return false;
     }
-    state_.errorNumber = 20;
+    state_.errorNumber = Finding::LoopSyntaxError;
     return true;
 }
 
@@ -420,7 +418,7 @@ bool Assembler::compileLoopEnd() {
     const bool until = state_.tokens[0] == "UNTIL";
     state_.instructionLength = 2;
     if (state_.openLoopCount == 0) {
-        state_.errorNumber = 24;
+        state_.errorNumber = Finding::EndLoopWithoutLoop;
         recordError();
         return true;
     }
@@ -429,14 +427,14 @@ bool Assembler::compileLoopEnd() {
     if (!until) {
         storeByte(0, 0x80);
     } else if (state_.tokens[1].empty()) {
-        state_.errorNumber = 20;
+        state_.errorNumber = Finding::LoopSyntaxError;
         return true;
     } else {
         compileCondition(state_.tokens[1]);
     }
     std::int32_t back = row.loopHead + 256 - state_.codeAddress - state_.instructionLength;
     if (back < 128) {
-        state_.errorNumber = 21;
+        state_.errorNumber = Finding::RelativeRangeExceeded;
         back = 0;
     }
     storeByte(state_.instructionLength - 1, back);
@@ -447,7 +445,7 @@ bool Assembler::compileLoopEnd() {
             state_.codeText.at(static_cast<std::size_t>(row.whileLine)).substr(0, 4)));
         const std::int32_t distance =
             state_.codeAddress - source - row.whileLength + state_.instructionLength;
-        if (distance > 127) state_.errorNumber = 21;
+        if (distance > 127) state_.errorNumber = Finding::RelativeRangeExceeded;
         patchLastByte(row.whileLine, row.whileLength, distance);
     }
     return true;

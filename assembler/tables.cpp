@@ -27,14 +27,14 @@ void Assembler::compileTable() {
         } else if (c == ' ') {
             if (inQuote) item += c;
         } else if (!inQuote && sawQuote) {
-            state_.errorNumber = 19;  // text behind a closing quote
+            state_.errorNumber = Finding::TableFormatError;  // text behind a closing quote
             return;
         } else {
             item += c;
         }
     }
     if (!item.empty()) compileTableItem(item, sawQuote, words);
-    if (inQuote) state_.errorNumber = 19;
+    if (inQuote) state_.errorNumber = Finding::TableFormatError;
     std::string& code = state_.codeText[static_cast<std::size_t>(state_.currentRow)];
     code.pop_back();
     code += '\t';
@@ -59,7 +59,7 @@ void Assembler::compileTableItem(const std::string& item, bool& sawQuote, bool w
     evaluateExpression(expression, value, found);
     if (!found) {
         // The row keeps its length and is read again with the final tables.
-        row.marker += ";>err7 " + item + " nicht erkannt.";
+        row.marker += tableItemMarker(item);
         row.retryMark = "?";
         value = 0;
     }

@@ -75,11 +75,16 @@ RuntimeFailure currentFailure() {
     }
 }
 
+std::string failureHeadline(const std::string& lead, const RuntimeFailure& failure,
+                            bool strBlank) {
+    return lead + decimalText(failure.number(), strBlank) + text8(" wurde ausgelöst von ") +
+           failure.source();
+}
+
 std::string failureBoxText(const RuntimeFailure& failure, const std::string& procedure) {
-    std::string text = text8("Fehler Nummer") + decimalText(failure.number(), true) +
-                       text8(" wurde ausgelöst von ") + failure.source() + std::string(kCrLf) +
-                       failure.description() + std::string(kCrLf) + "Sub: " + procedure;
-    return text + failureDetails(failure);
+    return failureHeadline("Fehler Nummer", failure, true) + std::string(kCrLf) +
+           failure.description() + std::string(kCrLf) + "Sub: " + procedure +
+           failureDetails(failure);
 }
 
 std::string failureDetails(const RuntimeFailure& failure) {

@@ -65,9 +65,7 @@ DisassemblyResult Disassembler::disassembleFile(const std::string& path,
     } catch (...) {
         const RuntimeFailure failure = currentFailure();
         host_.messageBox(kErrorTitle,
-                         "Fehler # " + decimalText(failure.number()) +
-                             text8(" wurde ausgelöst von ") + failure.source() +
-                             std::string(kCrLf) + failure.description() + failureDetails(failure),
+                         failureHeadline("Fehler # ", failure, false) + std::string(kCrLf) + failure.description() + failureDetails(failure),
                          MessageButtons::Ok, MessageIcon::Critical);
         result.outcome = DisassemblyOutcome::Failed;
     }

@@ -10,8 +10,8 @@
 
 namespace korvex {
 
-std::vector<Finding> findingsOf(const RunState& state) {
-    std::vector<Finding> findings;
+std::vector<FindingPlace> findingsOf(const RunState& state) {
+    std::vector<FindingPlace> findings;
     const bool anyMarker = std::any_of(state.sourceTable.begin(), state.sourceTable.end(),
                                        [](const SourceRow& row) { return !row.marker.empty(); });
     if (!anyMarker) return findings;

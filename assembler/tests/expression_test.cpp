@@ -17,11 +17,11 @@ protected:
     };
     Result evaluate(std::string text, std::int32_t context = kValueContext) {
         auto& state = probe().state();
-        state.errorNumber = 0;
+        state.errorNumber = Finding::None;
         std::int32_t value = context;
         bool found = false;
         probe().evaluateExpression(text, value, found);
-        return {value, found, state.errorNumber};
+        return {value, found, findingNumber(state.errorNumber)};
     }
     std::int32_t valueOf(const std::string& text, std::int32_t context = kValueContext) {
         const Result r = evaluate(text, context);

@@ -190,8 +190,7 @@ void Wizard::onKey(const std::string& name, KeyHandler handler) {
 
 void Wizard::withArithmeticTrap(const std::function<void()>& operation) {
     const auto report = [this](const RuntimeFailure& failure) {
-        host_.failure(text8("Fehler Nummer") + std::to_string(failure.number()) +
-                      text8(" wurde ausgelöst von ") + failure.source() + "\r\n" +
+        host_.failure(failureHeadline("Fehler Nummer", failure, false) + "\r\n" +
                       failure.description() + text8(": Überprüfen Sie Ihre Eingaben."));
     };
     try {

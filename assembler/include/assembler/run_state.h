@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "assembler/error_catalogue.h"
 #include "assembler/text_table.h"
 #include "base/failure.h"
 
@@ -85,7 +86,7 @@ struct RunState {
     Int16 openForCount = 0;
     Int16 openLoopCount = 0;
     bool useLongCall = false;
-    Int16 errorNumber = 0;
+    Finding errorNumber = Finding::None;
     bool secondPass = false;
     std::int32_t numberResult = 0;
     Int16 instructionLength = 1;

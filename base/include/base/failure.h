@@ -71,6 +71,13 @@ RuntimeFailure currentFailure();
 // first lines differently; empty when the failure has neither.
 std::string failureDetails(const RuntimeFailure& failure);
 
+// The first line of every failure box: `lead`, the number and " wurde
+// ausgelöst von " with the source. The boxes differ in their lead ("Fehler
+// Nummer", "Fehler", "Fehler # ") and in the blank that the classic Str$
+// puts before a number (`strBlank`); all build the line here.
+std::string failureHeadline(const std::string& lead, const RuntimeFailure& failure,
+                            bool strBlank);
+
 // The text of the failure box of a trap: the classic three lines, then the
 // file and the hint when the failure has them.
 std::string failureBoxText(const RuntimeFailure& failure, const std::string& procedure);

@@ -24,7 +24,7 @@ struct CompileRequest {
 };
 
 // A finding of the report: a row with an ";>err" marker.
-struct Finding {
+struct FindingPlace {
     std::string file;  // the main source's name, or an include as its #INCLUDE names it
     int line = 0;
     int number = 0;
@@ -45,7 +45,7 @@ struct CompileResult {
     std::string sourceText;  // its text, as the run read it
     std::string report;
     bool hasFindings = false;  // the report begins "Warnungen/Fehler:"
-    std::vector<Finding> findings;
+    std::vector<FindingPlace> findings;
     // Statements whose length a forward reference changed (German lines).
     std::vector<std::string> lengthWarnings;
 };
@@ -56,6 +56,6 @@ CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& se
                             const CompileRequest& request);
 
 // The findings of the last run of `state`, in the order of the rows.
-std::vector<Finding> findingsOf(const RunState& state);
+std::vector<FindingPlace> findingsOf(const RunState& state);
 
 }  // namespace korvex
