@@ -2,6 +2,7 @@
 
 #include <ctime>
 #include <stdexcept>
+#include <type_traits>
 
 #include "base/cp1252.h"
 #include "base/text.h"
@@ -29,12 +30,46 @@ Wizard::Wizard(WizardHost& host, WizardOptions options)
 
 Wizard::~Wizard() = default;
 
-void Wizard::openWizard() {
-    if (!loaded_) {
-        loaded_ = true;
-        loadSettings();
+template <typename Action>
+auto Wizard::observed(Action&& action) {
+    if (observer_ == nullptr || actionDepth_ > 0) return action();
+    const ControlSnapshot before = ControlSnapshot::take(registry_);
+    const std::string previewBefore = preview_;
+    ++actionDepth_;
+    try {
+        if constexpr (std::is_void_v<decltype(action())>) {
+            action();
+            --actionDepth_;
+            tellObserver(before, previewBefore);
+        } else {
+            auto result = action();
+            --actionDepth_;
+            tellObserver(before, previewBefore);
+            return result;
+        }
+    } catch (...) {
+        // A refused action changes nothing as a rule; whatever it did change
+        // is still shown.
+        --actionDepth_;
+        tellObserver(before, previewBefore);
+        throw;
     }
-    windowVisible_ = true;
+}
+
+void Wizard::tellObserver(const ControlSnapshot& before, const std::string& previewBefore) {
+    const std::vector<ControlChange> changes = before.changesUntil(registry_);
+    if (!changes.empty()) observer_->controlsChanged(changes);
+    if (preview_ != previewBefore) observer_->previewChanged(preview_);
+}
+
+void Wizard::openWizard() {
+    observed([this] {
+        if (!loaded_) {
+            loaded_ = true;
+            loadSettings();
+        }
+        windowVisible_ = true;
+    });
 }
 
 void Wizard::transferToEditor(EditorAccess& editor) {
@@ -44,6 +79,10 @@ void Wizard::transferToEditor(EditorAccess& editor) {
 }
 
 void Wizard::userSets(const std::string& name, int index, const std::string& value) {
+    observed([&] { setByUser(name, index, value); });
+}
+
+void Wizard::setByUser(const std::string& name, int index, const std::string& value) {
     const auto found = registry_.find(name, index);
     if (!found) throw ControlUseError(text8("unbekanntes Feld ") + controlText(name, index), true);
     const Control& base = baseOf(*found);
@@ -101,18 +140,18 @@ void Wizard::userClicks(const std::string& name, int index) {
                               false);
     }
     const auto handler = click_.find(name);
-    if (handler != click_.end()) handler->second(index);
+    if (handler != click_.end()) observed([&] { handler->second(index); });
 }
 
 void Wizard::userLeaves(const std::string& name, int index) {
     const auto handler = leave_.find(name);
-    if (handler != leave_.end()) handler->second(index);
+    if (handler != leave_.end()) observed([&] { handler->second(index); });
 }
 
 std::int16_t Wizard::userPresses(const std::string& name, int index, std::int16_t key,
                                  int selectionLength) {
     const auto handler = key_.find(name);
-    if (handler != key_.end()) handler->second(index, selectionLength, key);
+    if (handler != key_.end()) observed([&] { handler->second(index, selectionLength, key); });
     return key;
 }
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "base/cp1252.h"
 #include "base/failure.h"
 #include "wizards/core/comment_colouring.h"
@@ -17,6 +19,7 @@ namespace {
 using WizardCommands = WizardFixture;
 using FieldRepairs = WizardFixture;
 using ControlUse = WizardFixture;
+using ChangeNotification = WizardFixture;
 
 using Kind = ScriptedWizardHost::Kind;
 
@@ -256,6 +259,34 @@ TEST(WizardFactory, ChipsHaveTheirWizardAndATypoInABindingFailsAtOnce) {
     EXPECT_EQ(makeWizard("52", host, {})->windowTitle(), "Assistent 80C52 / 80C32");
     EXPECT_EQ(makeWizard("8051x", host, {}), nullptr);
     EXPECT_THROW(MisboundWizard{host}, std::logic_error);
+}
+
+// A dialog hears of exactly the controls an action changed, and of the
+// program only when its text changed.
+TEST_F(ChangeNotification, ReportsWhatTheActionChangedAndNothingElse) {
+    struct Recorder : WizardObserver {
+        std::vector<std::vector<ControlChange>> changes;
+        std::vector<std::string> previews;
+        void controlsChanged(const std::vector<ControlChange>& c) override { changes.push_back(c); }
+        void previewChanged(const std::string& text) override { previews.push_back(text); }
+    } recorder;
+    apply({"T1Check0=1", "T1Check2=1"});
+    wizard_.setObserver(&recorder);
+
+    set("T1Combo1", "3");  // mode 3 stops both run bits and locks one of them
+    ASSERT_EQ(recorder.changes.size(), 1u);
+    std::map<std::string, std::uint8_t> changed;
+    for (const ControlChange& change : recorder.changes[0]) changed[change.key] = change.aspects;
+    EXPECT_EQ(changed["T1Combo1"], AspectValue);
+    EXPECT_EQ(changed["T1Check2"], AspectValue | AspectEnabled);
+    EXPECT_EQ(changed["T0Check3"], AspectValue);
+    EXPECT_EQ(changed.count("SCheck1"), 0u);
+    ASSERT_EQ(recorder.previews.size(), 1u);
+    EXPECT_EQ(recorder.previews[0], program());
+
+    set("T1Combo1", "3");  // the same again: nothing to tell
+    EXPECT_EQ(recorder.changes.size(), 1u);
+    EXPECT_EQ(recorder.previews.size(), 1u);
 }
 
 // The workbench's boxes for a wizard: a question is a Yes/No box with the

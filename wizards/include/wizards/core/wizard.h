@@ -14,6 +14,7 @@
 
 #include "base/failure.h"
 #include "wizards/core/comment_colouring.h"
+#include "wizards/core/control_changes.h"
 #include "wizards/core/control_registry.h"
 #include "wizards/core/editor_transfer.h"
 #include "wizards/core/generation_guard.h"
@@ -83,6 +84,9 @@ class Wizard {
                              int selectionLength = 0);
 
     const ControlRegistry& controls() const { return registry_; }
+    // The dialog that shows the wizard; told after each user action what
+    // changed. Null: nobody listens.
+    void setObserver(WizardObserver* observer) { observer_ = observer; }
     // No compound change is running and no list waits to be put back: what
     // a dialog may rely on between two user actions.
     bool atRest() const { return generationGuard_.idle() && revertPending_ == 0; }
@@ -128,6 +132,15 @@ class Wizard {
 
   private:
     void checkBinding(const std::string& name) const;
+    void setByUser(const std::string& name, int index, const std::string& value);
+    // Runs a user action and then tells the observer what it changed; a
+    // nested action is part of the outer one.
+    template <typename Action>
+    auto observed(Action&& action);
+    void tellObserver(const ControlSnapshot& before, const std::string& previewBefore);
+
+    WizardObserver* observer_ = nullptr;
+    int actionDepth_ = 0;
 
     std::map<std::string, Handler> change_;
     std::map<std::string, Handler> leave_;
