@@ -66,7 +66,7 @@ void Assembler::declareList(std::string list, const std::string& kind) {
         const bool ownRow =
             state_.currentRow < static_cast<std::int32_t>(state_.sourceTable.size());
         if (ownRow)
-            state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].retryMark.clear();
+            state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].retry = false;
         std::size_t start = 0;
         for (std::size_t comma = list.find(','); comma != std::string::npos;
              start = comma + 1, comma = list.find(',', start)) {

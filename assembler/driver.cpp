@@ -142,7 +142,7 @@ bool Assembler::secondPassOver() {
     const auto rows = static_cast<std::int32_t>(state_.sourceTable.size());
     for (std::int32_t row = 0; row < rows; ++row) {
         state_.currentRow = row;
-        if (state_.sourceTable[static_cast<std::size_t>(row)].retryMark.empty()) continue;
+        if (!state_.sourceTable[static_cast<std::size_t>(row)].retry) continue;
         state_.codeAddress = static_cast<std::int32_t>(
             parseHexPrefix(state_.codeText[static_cast<std::size_t>(row)].substr(0, 4)));
         std::string statement = state_.sourceTable[static_cast<std::size_t>(row)].statement;
@@ -235,7 +235,7 @@ void Assembler::recordError() {
     growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
     const int number = findingNumber(state_.errorNumber);
-    if (findingKind(number) == FindingKind::Retried) row.retryMark = "?";
+    if (findingKind(number) == FindingKind::Retried) row.retry = true;
     row.marker = catalogueMarker(number);
     state_.errorNumber = Finding::None;
 }

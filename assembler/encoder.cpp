@@ -52,7 +52,7 @@ Family familyOf(const std::string& mnemonic) {
 void Assembler::encodeInstruction() {
     growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
-    row.retryMark.clear();
+    row.retry = false;
     row.marker.clear();
 
     auto& t = state_.tokens;
@@ -238,12 +238,12 @@ void Assembler::encodeImplicitCall() {
             storeByte(0, 0x11 + 32 * ((target / 256) % 8));
             storeByte(1, target % 256);
         } else {
-            row.retryMark = "?";
+            row.retry = true;
             state_.errorNumber = Finding::BlockBoundaryCrossed;
         }
     } else {
         // The second pass then sees an ordinary call statement.
-        row.retryMark = "?";
+        row.retry = true;
         state_.errorNumber = Finding::InstructionNotRecognised;
         row.statement = (state_.useLongCall ? "LCALL " : "ACALL ") + row.statement;
     }

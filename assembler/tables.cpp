@@ -60,7 +60,7 @@ void Assembler::compileTableItem(const std::string& item, bool& sawQuote, bool w
     if (!found) {
         // The row keeps its length and is read again with the final tables.
         row.marker += tableItemMarker(item);
-        row.retryMark = "?";
+        row.retry = true;
         value = 0;
     }
     if (words) {

@@ -57,7 +57,7 @@ TEST_F(LinePreparationTest, LiteralsUseTheEightBitCode) {
 TEST_F(LinePreparationTest, CommaBeforeTheFirstBlankIsASyntaxError) {
     ASSERT_EQ(assembleLines({"MOV,A 5"}), RunOutcome::Completed);
     EXPECT_EQ(markerNumber(0), 32);
-    EXPECT_TRUE(row(0).retryMark.empty());
+    EXPECT_FALSE(row(0).retry);
 }
 
 TEST_F(LinePreparationTest, LabelsAreOneNameSpaceAndDefinedOnce) {

@@ -17,11 +17,11 @@ namespace korvex {
 
 // One row per statement. The text columns are the interface between stages.
 struct SourceRow {
-    std::string retryMark;   // "?" when the second pass must encode the row again
     std::string marker;      // ";>err..." finding, empty when clean
     std::string position;    // file number ":" line number
     std::string statement;   // the statement as the second pass sees it
     std::string sourceText;  // the raw line, on the first row of a line only
+    bool retry = false;      // the second pass must encode the row again
 };
 
 // Operand classes as classifyOperand and parseBitOperand return them.
