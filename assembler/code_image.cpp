@@ -34,7 +34,7 @@ std::string binaryImage(const std::vector<std::string>& codeText) {
 namespace {
 
 class HexRecordWriter {
-public:
+  public:
     void add(std::int32_t address, const std::vector<std::uint8_t>& bytes) {
         if (fill_ == 0) start_ = address;
         if (start_ + fill_ != address) {
@@ -57,7 +57,7 @@ public:
         return std::move(text_);
     }
 
-private:
+  private:
     void flush() {
         text_ += ':';
         appendHex2(text_, fill_);

@@ -65,8 +65,7 @@ void Assembler::declareList(std::string list, const std::string& kind) {
         list += ",";
         const bool ownRow =
             state_.currentRow < static_cast<std::int32_t>(state_.sourceTable.size());
-        if (ownRow)
-            state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].retry = false;
+        if (ownRow) state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].retry = false;
         std::size_t start = 0;
         for (std::size_t comma = list.find(','); comma != std::string::npos;
              start = comma + 1, comma = list.find(',', start)) {
@@ -93,8 +92,7 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
         if (kind == kBitKind) {
             std::int16_t cls = ClassNone;
             parseBitOperand(valueText, cls, value);
-            if (cls != ClassBit)
-                setRowMarker(findingMarker(Finding::InvalidBitName, valueText));
+            if (cls != ClassBit) setRowMarker(findingMarker(Finding::InvalidBitName, valueText));
         } else {
             bool found = false;
             const std::string original = valueText;
@@ -148,9 +146,7 @@ void Assembler::declareName(std::string key, std::string written, int kind) {
     }
 
     switch (kind) {
-        case kConstKind:
-            setRowMarker(findingMarker(Finding::ConstantWithoutValue));
-            return;
+        case kConstKind: setRowMarker(findingMarker(Finding::ConstantWithoutValue)); return;
         case kBitKind: {
             if (state_.bitTable.find(key) >= 0) {
                 setRowMarker(findingMarker(Finding::PlacedBitDefinedTwice, key));

@@ -59,8 +59,7 @@ void Assembler::readCpuDriver(const std::string& head, const std::string& tail) 
                            ? joined.substr(std::min<std::size_t>(4, joined.size()))
                            : joined.substr(std::min<std::size_t>(3, joined.size()));
     name = removeAll(name, '\'');
-    const DriverReading reading =
-        readCpuDriverFile(cpuDriverPath(name, settings_.programFolder));
+    const DriverReading reading = readCpuDriverFile(cpuDriverPath(name, settings_.programFolder));
     const CpuDriver& read = reading.driver;
 
     auto& labels = state_.labelTable;

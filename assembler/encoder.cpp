@@ -13,6 +13,8 @@ namespace {
 
 // The words the chain compares; each leads to one family. The words are all
 // different, so a lookup serves the chain's exact comparisons in its order.
+// One line per group reads better here than one line per name.
+// clang-format off
 enum class Family {
     None, Arithmetic, IncDec, MulDiv, AccumulatorOrBit, Logic, PushPop, Xchd, MovxMovc, Mov,
     ReturnOrNop, ConditionalJump, BitJump, Djnz, Cjne, LongJumpOrCall, AbsoluteJumpOrCall, Table,
@@ -43,6 +45,7 @@ Family familyOf(const std::string& mnemonic) {
         {"ELSE", Family::Else}, {"ELSEIF", Family::ElseIf}, {"END", Family::EndOrUntil},
         {"UNTIL", Family::EndOrUntil}, {"LOOP", Family::Loop}, {"EXIT", Family::Exit},
         {"FOR", Family::For}, {"NEXT", Family::Next}, {"CPU", Family::Cpu}, {"#", Family::Hash}};
+    // clang-format on
     const auto hit = kFamilies.find(mnemonic);
     return hit == kFamilies.end() ? Family::None : hit->second;
 }
@@ -166,7 +169,8 @@ void Assembler::writeListingTail() {
 }
 
 void Assembler::genericError() {
-    if (state_.errorNumber == Finding::None) state_.errorNumber = Finding::InvalidOperandCombination;
+    if (state_.errorNumber == Finding::None)
+        state_.errorNumber = Finding::InvalidOperandCombination;
 }
 
 void Assembler::storeByte(int index, std::int64_t value) {
@@ -203,7 +207,8 @@ bool Assembler::encodeOrg() {
 
 void Assembler::encodeEnd() {
     // The program stop of the language: an endless SJMP onto itself.
-    if (!state_.tokens[1].empty() || !state_.tokens[2].empty()) state_.errorNumber = Finding::SyntaxError;
+    if (!state_.tokens[1].empty() || !state_.tokens[2].empty())
+        state_.errorNumber = Finding::SyntaxError;
     state_.instructionLength = 2;
     storeByte(0, 0x80);
     storeByte(1, 0xFE);

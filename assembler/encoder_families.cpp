@@ -74,9 +74,7 @@ void Assembler::encodeIncDec() {
             break;
         case ClassIndirect: storeByte(0, base + 2 + value); break;
         case ClassRegister: storeByte(0, base + 4 + value); break;
-        default:
-            state_.instructionLength = 2;
-            genericError();
+        default: state_.instructionLength = 2; genericError();
     }
 }
 
@@ -98,8 +96,8 @@ void Assembler::encodeAccumulatorOrBit() {
     }
     if (t[1] == "A") {
         static const std::pair<const char*, int> kAccumulatorForms[] = {
-            {"DA", 0xD4}, {"CLR", 0xE4}, {"CPL", 0xF4}, {"RL", 0x23},
-            {"RLC", 0x33}, {"RR", 0x03}, {"RRC", 0x13}, {"SWAP", 0xC4}};
+            {"DA", 0xD4},  {"CLR", 0xE4}, {"CPL", 0xF4}, {"RL", 0x23},
+            {"RLC", 0x33}, {"RR", 0x03},  {"RRC", 0x13}, {"SWAP", 0xC4}};
         for (const auto& [word, byte] : kAccumulatorForms) {
             if (m == word) {
                 storeByte(0, byte);
@@ -246,8 +244,8 @@ void Assembler::encodeMovxMovc() {
         const char* second;
         int byte;
     } kForms[] = {
-        {"MOVX", "A", "@R0", 0xE2},  {"MOVX", "A", "@R1", 0xE3},   {"MOVX", "A", "@DPTR", 0xE0},
-        {"MOVX", "@R0", "A", 0xF2},  {"MOVX", "@R1", "A", 0xF3},   {"MOVX", "@DPTR", "A", 0xF0},
+        {"MOVX", "A", "@R0", 0xE2},     {"MOVX", "A", "@R1", 0xE3},   {"MOVX", "A", "@DPTR", 0xE0},
+        {"MOVX", "@R0", "A", 0xF2},     {"MOVX", "@R1", "A", 0xF3},   {"MOVX", "@DPTR", "A", 0xF0},
         {"MOVC", "A", "@A+DPTR", 0x93}, {"MOVC", "A", "@A+PC", 0x83},
     };
     for (const auto& form : kForms) {
@@ -298,9 +296,7 @@ void Assembler::encodeMov() {
                     genericError();
                 }
                 break;
-            default:
-                state_.instructionLength = 2;
-                genericError();
+            default: state_.instructionLength = 2; genericError();
         }
         return;
     }
@@ -387,7 +383,11 @@ void Assembler::encodeConditionalJump() {
     std::int32_t target = kLabelContext;
     bool found = false;
     evaluateExpression(t[1], target, found);
-    storeByte(0, m == "JC" ? 0x40 : m == "JNC" ? 0x50 : m == "JZ" ? 0x60 : m == "JNZ" ? 0x70 : 0x80);
+    storeByte(0, m == "JC"    ? 0x40
+                 : m == "JNC" ? 0x50
+                 : m == "JZ"  ? 0x60
+                 : m == "JNZ" ? 0x70
+                              : 0x80);
     if (!t[2].empty()) {
         state_.errorNumber = Finding::InvalidOperandCombination;
     } else if (!found) {
@@ -460,7 +460,9 @@ void Assembler::encodeCjne() {
     std::int32_t right = 0;
     classifyOperand(t[1], leftClass, left);
     classifyOperand(t[2], rightClass, right);
-    maskByte(right, state_.errorNumber, rightClass == ClassImmediate ? Finding::ImmediateTooLarge : Finding::InvalidDirectAddress);
+    maskByte(
+        right, state_.errorNumber,
+        rightClass == ClassImmediate ? Finding::ImmediateTooLarge : Finding::InvalidDirectAddress);
     storeByte(1, right);
     if (!storeCompareOpcode(leftClass, left, rightClass)) genericError();
 }
@@ -516,7 +518,8 @@ void Assembler::encodeAbsoluteJumpOrCall() {
     bool found = false;
     evaluateExpression(t[1], target, found);
     if (!found) {
-        if (state_.errorNumber == Finding::None) state_.errorNumber = Finding::UnknownInstructionOrTarget;
+        if (state_.errorNumber == Finding::None)
+            state_.errorNumber = Finding::UnknownInstructionOrTarget;
         return;
     }
     if (!sameBlock(state_.codeAddress + 2, target)) {

@@ -81,7 +81,9 @@ const std::array<std::string, kCatalogue.size()>& convertedMarkers() {
     return markers;
 }
 
-bool inCatalogue(int number) { return number >= 1 && number < static_cast<int>(kCatalogue.size()); }
+bool inCatalogue(int number) {
+    return number >= 1 && number < static_cast<int>(kCatalogue.size());
+}
 
 }  // namespace
 

@@ -10,8 +10,12 @@
 namespace korvex {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isHexDigit(char c) { return isDigit(c) || (c >= 'A' && c <= 'F'); }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool isHexDigit(char c) {
+    return isDigit(c) || (c >= 'A' && c <= 'F');
+}
 
 // The decimal test: digits, a D as last character, a sign in front.
 bool passesDecimalTest(std::string_view text) {
@@ -117,7 +121,8 @@ void Assembler::evaluatePart(std::string_view text, std::int32_t& value, bool& f
         evaluatePart(left, leftValue, leftFound, nullptr);
         evaluatePart(right, rightValue, rightFound, nullptr);
         if (!leftFound || !rightFound) {
-            if (state_.errorNumber == Finding::None) state_.errorNumber = Finding::VariableNotRecognised;
+            if (state_.errorNumber == Finding::None)
+                state_.errorNumber = Finding::VariableNotRecognised;
             found = false;
             return;
         }

@@ -14,7 +14,8 @@ void Assembler::defineLabel(std::string& text, const std::string& position) {
 
     state_.numberResult = -1;
     const int row = state_.labelTable.find(key);
-    if (row >= 0) state_.numberResult = static_cast<std::int32_t>(parseDecimal(state_.labelTable.at(row, 1)));
+    if (row >= 0)
+        state_.numberResult = static_cast<std::int32_t>(parseDecimal(state_.labelTable.at(row, 1)));
 
     if (row >= 0 && row < driver_.vectorCount) {
         // A vector name continues the code at that vector, no ORG needed.

@@ -12,8 +12,8 @@
 namespace korvex {
 
 std::string germanDate(const CalendarDate& date) {
-    static const char* const kMonths[] = {"Januar", "Februar", "März",     "April",
-                                          "Mai",    "Juni",    "Juli",     "August",
+    static const char* const kMonths[] = {"Januar",    "Februar", "März",     "April",
+                                          "Mai",       "Juni",    "Juli",     "August",
                                           "September", "Oktober", "November", "Dezember"};
     const int month = date.month >= 1 && date.month <= 12 ? date.month : 1;
     return std::to_string(date.day) + ". " + text8(kMonths[month - 1]) + " " +

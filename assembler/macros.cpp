@@ -42,8 +42,8 @@ bool isWholeWord(const std::string& upperLine, const std::string& name) {
     if (at == std::string::npos) return false;
     const bool startOk = at == 0 || isWordBoundary(upperLine[at - 1]);
     const std::size_t after = at + name.size();
-    const bool endOk = after >= upperLine.size() || isWordBoundary(upperLine[after]) ||
-                       upperLine[after] == '(';
+    const bool endOk =
+        after >= upperLine.size() || isWordBoundary(upperLine[after]) || upperLine[after] == '(';
     return startOk && endOk;
 }
 
@@ -58,7 +58,8 @@ void Assembler::defineMacro(const std::string& text) {
     }
     constexpr std::size_t kKeywordLength = 5;  // "#DEF "
     const std::size_t paren = text.find('(');
-    const bool withParameters = paren != std::string::npos && paren >= kKeywordLength && paren < open;
+    const bool withParameters =
+        paren != std::string::npos && paren >= kKeywordLength && paren < open;
     const std::string writtenName =
         text.substr(kKeywordLength, (withParameters ? paren : open) - kKeywordLength);
     const std::string name = upperCase(trimBlanks(writtenName));

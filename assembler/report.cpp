@@ -10,7 +10,9 @@ namespace {
 
 const std::string kLineEnd(kCrLf);
 
-bool unused(const std::string& mark) { return mark.empty() || mark == "0"; }
+bool unused(const std::string& mark) {
+    return mark.empty() || mark == "0";
+}
 
 // An address column converted the classic way: text that is no number (the
 // empty row of a table without vectors) is a type mismatch.
@@ -47,7 +49,8 @@ void Assembler::buildReport(std::int32_t endOfCode) {
         warnings += std::to_string(state.openIfCount.value()) + " offene If-Schleife(n)" + kLineEnd;
     }
     if (state.openForCount != 0) {
-        warnings += std::to_string(state.openForCount.value()) + " offene For-Schleife(n)" + kLineEnd;
+        warnings +=
+            std::to_string(state.openForCount.value()) + " offene For-Schleife(n)" + kLineEnd;
     }
     if (state.openLoopCount != 0) {
         warnings +=
@@ -80,8 +83,8 @@ void Assembler::buildReport(std::int32_t endOfCode) {
     if (!lines.empty()) warnings += "Unbenutzte Byte" + kLineEnd + lines;
 
     std::string statistic = decimalText(static_cast<std::int64_t>(state.sourceTable.size()), true) +
-                            text8(" Zeilen übersetzt. Code Ende bei ") +
-                            hexDigits(endOfCode, 4) + "h." + kLineEnd;
+                            text8(" Zeilen übersetzt. Code Ende bei ") + hexDigits(endOfCode, 4) +
+                            "h." + kLineEnd;
     if (!state.symbolList.at(0, 0).empty()) {
         struct Kind {
             const char* name;
@@ -101,8 +104,8 @@ void Assembler::buildReport(std::int32_t endOfCode) {
             for (Kind& k : kinds) {
                 if (kind == k.name && std::string(k.name) != "IRAM") target = &k;
             }
-            target->entries += "\t" + state.symbolList.at(i, 0) + ": " + state.symbolList.at(i, 2) +
-                               kLineEnd;
+            target->entries +=
+                "\t" + state.symbolList.at(i, 0) + ": " + state.symbolList.at(i, 2) + kLineEnd;
             ++target->count;
         }
         for (const Kind& k : kinds) {
@@ -113,8 +116,8 @@ void Assembler::buildReport(std::int32_t endOfCode) {
     }
     if (!state.wordTable.at(0, 0).empty()) {
         const int count = state.wordTable.size();
-        statistic += decimalText(count, true) + " Word-Variable" + (count > 1 ? "n" : "") + ":" +
-                     kLineEnd;
+        statistic +=
+            decimalText(count, true) + " Word-Variable" + (count > 1 ? "n" : "") + ":" + kLineEnd;
         for (int i = 0; i < count; ++i) {
             statistic += "\t" + state.wordTable.at(i, 0) + ": " +
                          hexDigits(parseDecimal(state.wordTable.at(i, 1))) + "h" + kLineEnd;

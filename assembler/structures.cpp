@@ -32,7 +32,8 @@ void Assembler::growForNewRow() {
 
 void Assembler::markOutOfRange(std::int32_t line) {
     growRowsTo(line);
-    state_.sourceTable[static_cast<std::size_t>(line)].marker = findingMarker(Finding::ExitOutOfRange);
+    state_.sourceTable[static_cast<std::size_t>(line)].marker =
+        findingMarker(Finding::ExitOutOfRange);
 }
 
 void Assembler::patchLastByte(std::int32_t line, std::int32_t length, std::int32_t distance) {
@@ -134,11 +135,13 @@ void Assembler::compileCondition(std::string text) {
     state_.tokens[2] = right;
     if (rightValue > 255) {
         rightValue &= 0xFF;
-        state_.errorNumber = rightClass == ClassImmediate ? Finding::ImmediateTooLarge : Finding::InvalidDirectAddress;
+        state_.errorNumber = rightClass == ClassImmediate ? Finding::ImmediateTooLarge
+                                                          : Finding::InvalidDirectAddress;
     }
     state_.instructionLength = 3;
     storeByte(1, rightValue);
-    if (!storeCompareOpcode(leftClass, leftValue, rightClass)) state_.errorNumber = Finding::InvalidOperandCombination;
+    if (!storeCompareOpcode(leftClass, leftValue, rightClass))
+        state_.errorNumber = Finding::InvalidOperandCombination;
     if (state_.secondPass) {
         // The retried row reads its offset back as decimal text: "1C" comes back as 1.
         const std::string& code = state_.codeText.at(static_cast<std::size_t>(state_.currentRow));

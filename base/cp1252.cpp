@@ -6,11 +6,14 @@ namespace korvex {
 namespace {
 
 // Code points of the bytes 80h to 9Fh; the undefined ones keep their own value.
+// Eight to a line, as code charts print them.
+// clang-format off
 constexpr std::array<char32_t, 32> kHighControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
     0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
     0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+// clang-format on
 
 char32_t codePoint(unsigned char byte) {
     if (byte >= 0x80 && byte < 0xA0) return kHighControls[byte - 0x80];
@@ -107,7 +110,8 @@ char upperChar(char c) {
 std::string upperCase(std::string_view text) {
     static const auto kUpper = [] {
         std::array<char, 256> table{};
-        for (int i = 0; i < 256; ++i) table[static_cast<std::size_t>(i)] = upperChar(static_cast<char>(i));
+        for (int i = 0; i < 256; ++i)
+            table[static_cast<std::size_t>(i)] = upperChar(static_cast<char>(i));
         return table;
     }();
     std::string out(text);

@@ -11,34 +11,20 @@ namespace korvex {
 
 std::string failureDescription(int number) {
     switch (number) {
-        case 5:
-            return text8("Unzulässiger Prozeduraufruf oder ungültiges Argument");
-        case 6:
-            return text8("Überlauf");
-        case 7:
-            return text8("Nicht genügend Speicher");
-        case 9:
-            return text8("Index außerhalb des gültigen Bereichs");
-        case 11:
-            return text8("Division durch Null");
-        case 13:
-            return text8("Typen unverträglich");
-        case 28:
-            return text8("Nicht genügend Stapelspeicher");
-        case 52:
-            return text8("Dateiname oder -nummer falsch");
-        case 53:
-            return text8("Datei nicht gefunden");
-        case 62:
-            return text8("Einlesen hinter Dateiende");
-        case 70:
-            return text8("Zugriff verweigert");
-        case 75:
-            return text8("Fehler beim Zugriff auf Pfad/Datei");
-        case 76:
-            return text8("Pfad nicht gefunden");
-        default:
-            return {};
+        case 5: return text8("Unzulässiger Prozeduraufruf oder ungültiges Argument");
+        case 6: return text8("Überlauf");
+        case 7: return text8("Nicht genügend Speicher");
+        case 9: return text8("Index außerhalb des gültigen Bereichs");
+        case 11: return text8("Division durch Null");
+        case 13: return text8("Typen unverträglich");
+        case 28: return text8("Nicht genügend Stapelspeicher");
+        case 52: return text8("Dateiname oder -nummer falsch");
+        case 53: return text8("Datei nicht gefunden");
+        case 62: return text8("Einlesen hinter Dateiende");
+        case 70: return text8("Zugriff verweigert");
+        case 75: return text8("Fehler beim Zugriff auf Pfad/Datei");
+        case 76: return text8("Pfad nicht gefunden");
+        default: return {};
     }
 }
 
@@ -75,8 +61,7 @@ RuntimeFailure currentFailure() {
     }
 }
 
-std::string failureHeadline(const std::string& lead, const RuntimeFailure& failure,
-                            bool strBlank) {
+std::string failureHeadline(const std::string& lead, const RuntimeFailure& failure, bool strBlank) {
     return lead + decimalText(failure.number(), strBlank) + text8(" wurde ausgelöst von ") +
            failure.source();
 }

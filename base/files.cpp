@@ -22,14 +22,11 @@ namespace {
 [[noreturn]] void raiseForWrite(int error, const std::string& path) {
     switch (error) {
         case ENOENT:
-        case ENOTDIR:
-            raise(FailureNumber::PathNotFound, path);
+        case ENOTDIR: raise(FailureNumber::PathNotFound, path);
         case EACCES:
         case EPERM:
-        case EROFS:
-            raise(FailureNumber::PermissionDenied, path);
-        default:
-            raise(FailureNumber::PathFileAccess, path);
+        case EROFS: raise(FailureNumber::PermissionDenied, path);
+        default: raise(FailureNumber::PathFileAccess, path);
     }
 }
 
@@ -191,13 +188,10 @@ std::string readWholeFile(const std::string& path) {
         switch (errno) {
             case ENOENT:
             case ENOTDIR:
-            case ENAMETOOLONG:
-                raise(FailureNumber::FileNotFound, path);
+            case ENAMETOOLONG: raise(FailureNumber::FileNotFound, path);
             case EACCES:
-            case EPERM:
-                raise(FailureNumber::PermissionDenied, path);
-            default:
-                raise(FailureNumber::PathFileAccess, path);
+            case EPERM: raise(FailureNumber::PermissionDenied, path);
+            default: raise(FailureNumber::PathFileAccess, path);
         }
     }
     struct stat info {};

@@ -4,7 +4,9 @@
 
 namespace korvex {
 namespace {
-bool isBlankOrTab(char c) { return c == ' ' || c == '\t'; }
+bool isBlankOrTab(char c) {
+    return c == ' ' || c == '\t';
+}
 }  // namespace
 
 void cleanText(std::string& text) {

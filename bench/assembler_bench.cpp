@@ -25,7 +25,7 @@ constexpr std::array kSizes{4000, 8000, 16000, 32000};
 
 // A private folder holding the source of one size, and an assembler over it.
 class SourceRun {
-public:
+  public:
     SourceRun(int lines, bool structured) {
         folder_ = (std::filesystem::temp_directory_path() / "korvex-bench-XXXXXX").string();
         if (mkdtemp(folder_.data()) == nullptr) std::abort();
@@ -35,7 +35,7 @@ public:
         settings.temporaryFolder = folder_;
         assembler_.emplace(host_, settings);
         writeWholeFile(folder_ + "TmpFile.tmp", structured ? bench::generateStructuredSource(lines)
-                                                          : bench::generateSource(lines));
+                                                           : bench::generateSource(lines));
     }
     ~SourceRun() {
         std::error_code ec;
@@ -54,7 +54,7 @@ public:
         return startsWith(report, "Warnungen/Fehler:") ? report.substr(0, 400) : std::string();
     }
 
-private:
+  private:
     std::string folder_;
     QuietHost host_;
     std::optional<Assembler> assembler_;

@@ -55,8 +55,10 @@ inline std::string generateSource(int lineCount) {
         const bool other = next(2) == 1;
         std::string s;
         switch (form) {
-            case 0: case 1: s = "mov a," + r; break;
-            case 2: case 3: s = "add a," + r; break;
+            case 0:
+            case 1: s = "mov a," + r; break;
+            case 2:
+            case 3: s = "add a," + r; break;
             case 4: s = "inc " + r; break;
             case 5: s = "mov " + r + ",a"; break;
             case 6: s = "anl a," + r; break;

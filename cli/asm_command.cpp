@@ -162,15 +162,13 @@ int assemble(const Options& options, std::ostream& out, std::ostream& err) {
         case CompileStatus::NothingToCompile:
             explainNothingCompiled(result.why, err);
             return kExitFailure;
-        case CompileStatus::Aborted:
-            return kExitFailure;
+        case CompileStatus::Aborted: return kExitFailure;
         case CompileStatus::Failed:
             if (const std::string hint = sourceTextHint(result.sourceText); !hint.empty()) {
                 err << kTool << ": " << toTerminal(hint) << '\n';
             }
             return kExitFailure;
-        case CompileStatus::Completed:
-            break;
+        case CompileStatus::Completed: break;
     }
     out << toTerminal(replaceAll(result.report, "\r\n", "\n")) << std::flush;
     // The code is right only where every statement kept its first length.

@@ -65,7 +65,8 @@ DisassemblyResult Disassembler::disassembleFile(const std::string& path,
     } catch (...) {
         const RuntimeFailure failure = currentFailure();
         host_.messageBox(kErrorTitle,
-                         failureHeadline("Fehler # ", failure, false) + std::string(kCrLf) + failure.description() + failureDetails(failure),
+                         failureHeadline("Fehler # ", failure, false) + std::string(kCrLf) +
+                             failure.description() + failureDetails(failure),
                          MessageButtons::Ok, MessageIcon::Critical);
         result.outcome = DisassemblyOutcome::Failed;
     }

@@ -32,14 +32,9 @@ void appendComment(std::string& out, FormComment comment, const std::uint8_t* by
                    const OperandNames& names) {
     const std::uint8_t last = bytes[length - 1];
     switch (comment) {
-        case FormComment::None:
-            break;
-        case FormComment::Immediate:
-            out += names.immediate(bytes[1]);
-            break;
-        case FormComment::ImmediateThird:
-            out += names.immediate(bytes[2]);
-            break;
+        case FormComment::None: break;
+        case FormComment::Immediate: out += names.immediate(bytes[1]); break;
+        case FormComment::ImmediateThird: out += names.immediate(bytes[2]); break;
         case FormComment::EndAtFE:
             if (last == 0xFE) out += "\t; End";
             break;
@@ -90,35 +85,16 @@ int decodeInstruction(const CodeRows& rows, std::size_t i, const OperandNames& n
         }
         out.append(p, static_cast<std::size_t>(field - p));
         switch (field[1]) {
-            case 'r':
-                out += static_cast<char>('0' + (opcode & 7));
-                break;
-            case 'i':
-                out += static_cast<char>('0' + (opcode & 1));
-                break;
-            case 'X':
-                appendHex2(out, bytes[1]);
-                break;
-            case 'Y':
-                appendHex2(out, bytes[2]);
-                break;
-            case 'D':
-                out += names.direct(bytes[1]);
-                break;
-            case 'E':
-                out += names.direct(bytes[2]);
-                break;
-            case 'B':
-                out += names.bit(bytes[1]);
-                break;
-            case 'A':
-                appendHex4(out, absoluteTargetValue(opcode, bytes[1], address));
-                break;
-            case 'T':
-                appendRelativeTarget(out, bytes[length - 1], length, address);
-                break;
-            default:
-                break;
+            case 'r': out += static_cast<char>('0' + (opcode & 7)); break;
+            case 'i': out += static_cast<char>('0' + (opcode & 1)); break;
+            case 'X': appendHex2(out, bytes[1]); break;
+            case 'Y': appendHex2(out, bytes[2]); break;
+            case 'D': out += names.direct(bytes[1]); break;
+            case 'E': out += names.direct(bytes[2]); break;
+            case 'B': out += names.bit(bytes[1]); break;
+            case 'A': appendHex4(out, absoluteTargetValue(opcode, bytes[1], address)); break;
+            case 'T': appendRelativeTarget(out, bytes[length - 1], length, address); break;
+            default: break;
         }
         p = field + 2;
     }

@@ -119,12 +119,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     args.push_back(file);
     if ((switches & 128) != 0) {
         switch (static_cast<OddArgument>((extra >> 4) & 3)) {
-            case OddArgument::SecondFile:
-                args.push_back(folder + "teil.a51");
-                break;
-            case OddArgument::UnknownSwitch:
-                args.push_back("--unbekannt");
-                break;
+            case OddArgument::SecondFile: args.push_back(folder + "teil.a51"); break;
+            case OddArgument::UnknownSwitch: args.push_back("--unbekannt"); break;
             case OddArgument::DanglingValue:
                 args.push_back(disassemble ? "-o" : "--program-folder");
                 break;

@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     korvex::QuietHost host;
     korvex::DisassemblerSettings settings;
     settings.programFolder = KORVEX_DRIVER_FOLDER;  // the shipped drivers
-    settings.controllerName = "80C517";  // many names, some of them hexadecimal-looking
+    settings.controllerName = "80C517";             // many names, some of them hexadecimal-looking
     settings.temporaryFolder = folder;
     korvex::Disassembler disassembler(host, settings);
 

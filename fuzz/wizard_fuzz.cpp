@@ -115,12 +115,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                     wizard.userClicks(control.name, control.index);
                     break;
                 }
-                case 2:
-                    host.answers.push_back(flag);
-                    break;
-                case 3:
-                    host.inputs.push_back(in.text());
-                    break;
+                case 2: host.answers.push_back(flag); break;
+                case 3: host.inputs.push_back(in.text()); break;
                 case 4: {
                     // Keys and the focus reach only a field the user can get to.
                     const Control& control = baseOf(field(in.byte()));
@@ -139,9 +135,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                     wizard.cancelWizard();
                     wizard.openWizard();
                     break;
-                default:
-                    wizard.selectTab(in.byte() % 8);
-                    break;
+                default: wizard.selectTab(in.byte() % 8); break;
             }
         } catch (const ControlUseError&) {
             // The dialog refuses this use; the session goes on.

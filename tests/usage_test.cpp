@@ -12,7 +12,7 @@ namespace {
 
 struct Program {
     std::string path;
-    std::string usage;                   // what --help starts its call line with
+    std::string usage;                    // what --help starts its call line with
     std::vector<std::string> wrongCalls;  // each must give 64
 };
 

@@ -62,14 +62,9 @@ CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& se
         return result;
     }
     switch (assembler.assembleSource(result.sourceName, request.switches)) {
-        case RunOutcome::Aborted:
-            result.status = CompileStatus::Aborted;
-            return result;
-        case RunOutcome::Failed:
-            result.status = CompileStatus::Failed;
-            return result;
-        case RunOutcome::Completed:
-            break;
+        case RunOutcome::Aborted: result.status = CompileStatus::Aborted; return result;
+        case RunOutcome::Failed: result.status = CompileStatus::Failed; return result;
+        case RunOutcome::Completed: break;
     }
     const RunState& state = assembler.state();
     result.status = CompileStatus::Completed;

@@ -57,10 +57,8 @@ void readFields(ItemReader& in, Settings& s) {
 FailureNumber openingFailure(int error) {
     switch (error) {
         case EACCES:
-        case EPERM:
-            return FailureNumber::PermissionDenied;
-        default:
-            return FailureNumber::PathFileAccess;
+        case EPERM: return FailureNumber::PermissionDenied;
+        default: return FailureNumber::PathFileAccess;
     }
 }
 

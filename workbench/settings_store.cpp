@@ -9,7 +9,8 @@ namespace korvex {
 namespace {
 
 bool runAllTheSame(const RuntimeFailure& failure, Host& host) {
-    const std::string text = failureHeadline("Fehler", failure, true) + ":" + std::string(kCrLf) + failure.description() + std::string(kCrLf) +
+    const std::string text = failureHeadline("Fehler", failure, true) + ":" + std::string(kCrLf) +
+                             failure.description() + std::string(kCrLf) +
                              text8("Möchten Sie versuchen das Programm trotzdem auszuführen?");
     return host.messageBox(text8("Fehler"), text, MessageButtons::YesNo, MessageIcon::Critical) ==
            MessageAnswer::Yes;

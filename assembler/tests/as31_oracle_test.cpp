@@ -67,12 +67,9 @@ class ProgramBuilder {
     // An address-like number: decimal or hexadecimal.
     std::string number(int value, int digits = 2) {
         switch (pick(0, 3)) {
-            case 0:
-                return std::to_string(value);
-            case 1:
-                return std::to_string(value) + (chance(50) ? "D" : "d");
-            default:
-                return hex(value, digits);
+            case 0: return std::to_string(value);
+            case 1: return std::to_string(value) + (chance(50) ? "D" : "d");
+            default: return hex(value, digits);
         }
     }
 
@@ -117,10 +114,8 @@ class ProgramBuilder {
     // A byte value in any notation both read alike, expressions included.
     std::string value(int v) {
         switch (pick(0, 9)) {
-            case 1:
-                return std::to_string(v) + "D";
-            case 2:
-                return hex(v, 4);
+            case 1: return std::to_string(v) + "D";
+            case 2: return hex(v, 4);
             case 3:
                 if (v > 0) {
                     std::string digits;
@@ -213,15 +208,9 @@ class ProgramBuilder {
         std::vector<std::string> out;
         for (const Item& item : items_) {
             switch (item.kind) {
-                case Item::Instruction:
-                    out.push_back(item.text);
-                    break;
-                case Item::Label:
-                    out.push_back(item.text + ":");
-                    break;
-                case Item::Origin:
-                    out.push_back((as31 ? "\t.org " : "\tORG ") + item.text);
-                    break;
+                case Item::Instruction: out.push_back(item.text); break;
+                case Item::Label: out.push_back(item.text + ":"); break;
+                case Item::Origin: out.push_back((as31 ? "\t.org " : "\tORG ") + item.text); break;
             }
         }
         return out;
@@ -401,18 +390,12 @@ void relativeBranch(ProgramBuilder& b, int form, const std::string& target) {
     if (form < 5) return b.op(2, kNames[form], {target});
     if (form < 8) return b.op(3, kNames[form], {b.bit(), target});
     switch (form) {
-        case 8:
-            return b.op(2, "DJNZ", {b.reg(n), target});
-        case 9:
-            return b.op(3, "DJNZ", {b.direct(b.pick(0, 255)), target});
-        case 10:
-            return b.op(3, "CJNE", {"A", b.direct(b.pick(0, 255)), target});
-        case 11:
-            return b.op(3, "CJNE", {"A", b.immediate(b.pick(0, 255)), target});
-        case 12:
-            return b.op(3, "CJNE", {b.reg(n), b.immediate(b.pick(0, 255)), target});
-        default:
-            return b.op(3, "CJNE", {b.indirect(i), b.immediate(b.pick(0, 255)), target});
+        case 8: return b.op(2, "DJNZ", {b.reg(n), target});
+        case 9: return b.op(3, "DJNZ", {b.direct(b.pick(0, 255)), target});
+        case 10: return b.op(3, "CJNE", {"A", b.direct(b.pick(0, 255)), target});
+        case 11: return b.op(3, "CJNE", {"A", b.immediate(b.pick(0, 255)), target});
+        case 12: return b.op(3, "CJNE", {b.reg(n), b.immediate(b.pick(0, 255)), target});
+        default: return b.op(3, "CJNE", {b.indirect(i), b.immediate(b.pick(0, 255)), target});
     }
 }
 

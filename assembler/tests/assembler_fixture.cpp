@@ -46,7 +46,9 @@ RunOutcome AssemblerFixture::assembleLines(const std::vector<std::string>& lines
     return outcome;
 }
 
-std::string AssemblerFixture::image() const { return binaryImage(assembler_->state().codeText); }
+std::string AssemblerFixture::image() const {
+    return binaryImage(assembler_->state().codeText);
+}
 
 std::string AssemblerFixture::bytesOfRow(int index) const {
     CodeEntry entry;

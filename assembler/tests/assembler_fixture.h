@@ -34,7 +34,7 @@ namespace korvex::testing {
 extern const char* const kTestDriver;
 
 class AssemblerFixture : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override;
     void TearDown() override;
 

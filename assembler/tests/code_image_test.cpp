@@ -9,7 +9,9 @@
 namespace korvex {
 namespace {
 
-std::string hexOf(const std::vector<std::string>& rows) { return hexFileText(rows); }
+std::string hexOf(const std::vector<std::string>& rows) {
+    return hexFileText(rows);
+}
 
 TEST(CodeImageTest, EmptyImage) {
     EXPECT_EQ(hexOf({"", ""}), ":00000001FF\r\n");
@@ -32,11 +34,11 @@ TEST(CodeImageTest, RecordsHoldAtMost32Bytes) {
 TEST(CodeImageTest, AddressChangesStartNewRecordsInRowOrder) {
     const std::vector<std::string> rows = {
         "0000\t02\t01\t00",
-        "0003",          // a label at the running address neither ends nor adds
+        "0003",  // a label at the running address neither ends nor adds
         "0003\t00",
-        "0100",          // a label at a new address ends the record
+        "0100",  // a label at a new address ends the record
         "0100\t22",
-        "0000\t12",      // backwards: records follow rows, and the byte is overwritten
+        "0000\t12",  // backwards: records follow rows, and the byte is overwritten
     };
     EXPECT_EQ(hexOf(rows),
               ":0400000002010000F9\r\n:0101000022DC\r\n:0100000012ED\r\n:00000001FF\r\n");

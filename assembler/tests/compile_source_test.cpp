@@ -10,7 +10,7 @@ namespace korvex::testing {
 namespace {
 
 class CompileSourceTest : public AssemblerFixture {
-protected:
+  protected:
     std::string assembleProject(const std::string& caption, const std::string& text) {
         const auto source = decideCompileSource(caption, text, host_);
         EXPECT_TRUE(source.has_value());

@@ -9,7 +9,7 @@ namespace korvex::testing {
 namespace {
 
 class DeclarationsTest : public AssemblerFixture {
-protected:
+  protected:
     std::string byteAddress(const std::string& key) const {
         const auto& table = assembler_->state().byteTable;
         const int row = table.find(key);
@@ -49,8 +49,8 @@ TEST_F(DeclarationsTest, WordsTakeTwoBytesButLookAtExactMatchesOnly) {
 }
 
 TEST_F(DeclarationsTest, BitsAreHexadecimalAndSkipTheDriversBits) {
-    ASSERT_EQ(assembleLines({"#BIT F1, F2=20h.3, F3", "#EXCLUDE BIT 70h-7Dh", "#BIT F4",
-                             "SETB F1", "SETB F2", "SETB F3", "SETB F4"}),
+    ASSERT_EQ(assembleLines({"#BIT F1, F2=20h.3, F3", "#EXCLUDE BIT 70h-7Dh", "#BIT F4", "SETB F1",
+                             "SETB F2", "SETB F3", "SETB F4"}),
               RunOutcome::Completed);
     EXPECT_EQ(bitAddress("F1"), "7F");
     EXPECT_EQ(bitAddress("F2"), "3");
@@ -71,11 +71,11 @@ TEST_F(DeclarationsTest, ConstantsAndValuesWorkInExpressions) {
 }
 
 TEST_F(DeclarationsTest, MarkersOfRefusedNames) {
-    ASSERT_EQ(assembleLines({"#CONST K", "#CONST K1=1", "#CONST K1=2", "#BIT F", "#BIT F",
-                             "#BIT TR1", "#BYTE SP", "#BYTE V", "#BYTE V", "#BYTE V2=1",
-                             "#BYTE V2=2", "#WORD ACC", "#WORD W", "#WORD W", "#BYTE N=XYZ",
-                             "#BIT G=30h.1"}),
-              RunOutcome::Completed);
+    ASSERT_EQ(
+        assembleLines({"#CONST K", "#CONST K1=1", "#CONST K1=2", "#BIT F", "#BIT F", "#BIT TR1",
+                       "#BYTE SP", "#BYTE V", "#BYTE V", "#BYTE V2=1", "#BYTE V2=2", "#WORD ACC",
+                       "#WORD W", "#WORD W", "#BYTE N=XYZ", "#BIT G=30h.1"}),
+        RunOutcome::Completed);
     const std::vector<std::string> expected = {
         ";>err53 falsche Konstantendeklaration (= fehlt)",
         "",
@@ -110,7 +110,9 @@ TEST_F(DeclarationsTest, DeclarationAfterAStatementTakesNoRow) {
 
 TEST_F(DeclarationsTest, TooManyExcludedRowsEndInTheDirectivesBox) {
     ASSERT_EQ(assembleLines({"#EXCLUDE BYTE 0-300"}), RunOutcome::Completed);
-    EXPECT_EQ(host_.lastBoxText, "Fehler  6: \xDC" "berlauf.");
+    EXPECT_EQ(host_.lastBoxText,
+              "Fehler  6: \xDC"
+              "berlauf.");
 }
 
 }  // namespace

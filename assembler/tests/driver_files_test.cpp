@@ -150,8 +150,9 @@ TEST_F(DriverFilesTest, VectorsOfTheChipsOwnInterruptsStandWhereTheDatasheetsPut
 // A driver is read as the classic reader wrote its tables: a section header
 // restarts its kind, and a failure keeps what came before it.
 TEST_F(DriverFilesTest, ReadingKeepsTheLastSectionAndWhatCameBeforeAFailure) {
-    writeFile("zwei.cpu", "VECTOR\r\n0000 A\r\n0003 B\r\nSFR\r\n81 SP\r\nVECTOR\r\n0010 C\r\n"
-                          "VECTOR\r\nBIT\r\n");
+    writeFile("zwei.cpu",
+              "VECTOR\r\n0000 A\r\n0003 B\r\nSFR\r\n81 SP\r\nVECTOR\r\n0010 C\r\n"
+              "VECTOR\r\nBIT\r\n");
     DriverReading reading = readCpuDriverFile(cpuDriverPath("zwei", folder_));
     ASSERT_FALSE(reading.failure);
     ASSERT_EQ(reading.driver.vectors.size(), 1u);

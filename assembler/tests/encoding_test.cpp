@@ -9,7 +9,7 @@ namespace korvex::testing {
 namespace {
 
 class EncodingTest : public AssemblerFixture {
-protected:
+  protected:
     // Assembles one statement at address 0 and returns its bytes and finding.
     std::pair<std::string, int> one(const std::string& statement) {
         EXPECT_EQ(assembleLines({statement}), RunOutcome::Completed) << statement;

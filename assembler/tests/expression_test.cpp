@@ -9,7 +9,7 @@ namespace korvex::testing {
 namespace {
 
 class ExpressionTest : public AssemblerFixture {
-protected:
+  protected:
     struct Result {
         std::int32_t value;
         bool found;

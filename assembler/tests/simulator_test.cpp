@@ -13,7 +13,7 @@ namespace korvex::testing {
 namespace {
 
 class SimulatorTest : public AssemblerFixture {
-protected:
+  protected:
     // Assembles the program, runs it up to the label STOP and reads the
     // internal RAM bytes asked for.
     std::map<int, int> runUntilStop(const std::vector<std::string>& lines,
@@ -26,9 +26,9 @@ protected:
         if (stop < 0) return {};
         std::vector<std::string> cells;
         for (int address : addresses) cells.push_back("iram:" + hexDigits(address, 2));
-        const auto values = runInSimulator(readFile("prog.h51"),
-                                           static_cast<std::int32_t>(parseDecimal(labels.at(stop, 1))),
-                                           cells);
+        const auto values =
+            runInSimulator(readFile("prog.h51"),
+                           static_cast<std::int32_t>(parseDecimal(labels.at(stop, 1))), cells);
         std::map<int, int> memory;
         for (const auto& [cell, value] : values) {
             memory[static_cast<int>(parseHexPrefix(cell.substr(5)))] = value;
@@ -103,17 +103,16 @@ TEST_F(SimulatorTest, StructuredProgramComputesItsResults) {
         "        MOV R5,#2",
         "        RET",
     };
-    const std::map<int, int> memory =
-        runUntilStop(program, {0x30, 0x31, 0x32, 0x00, 0x01, 0x02, 0x03, 0x40, 0x04, 0x41,
-                               0x42, 0x43});
+    const std::map<int, int> memory = runUntilStop(
+        program, {0x30, 0x31, 0x32, 0x00, 0x01, 0x02, 0x03, 0x40, 0x04, 0x41, 0x42, 0x43});
     const std::map<int, int> expected = {
-        {0x30, 1}, {0x31, 1}, {0x32, 3 + 4 + 5 + 6},  // the ELSE part sums 6, 5, 4, 3
-        {0x00, 10},                                   // R0: ten rounds of the WHILE
-        {0x01, 7},                                    // R1: until 7
-        {0x02, 4},                                    // R2: left at 4
-        {0x03, 5}, {0x40, 16},                        // R3 and the direct counter
-        {0x04, 1},                                    // R4: EXIT IF skipped both others
-        {0x41, 1}, {0x42, 2},                         // THENRET returned early for A = 0
+        {0x30, 1},  {0x31, 1},  {0x32, 3 + 4 + 5 + 6},  // the ELSE part sums 6, 5, 4, 3
+        {0x00, 10},                                     // R0: ten rounds of the WHILE
+        {0x01, 7},                                      // R1: until 7
+        {0x02, 4},                                      // R2: left at 4
+        {0x03, 5},  {0x40, 16},                         // R3 and the direct counter
+        {0x04, 1},                                      // R4: EXIT IF skipped both others
+        {0x41, 1},  {0x42, 2},                          // THENRET returned early for A = 0
         {0x43, 77}};
     EXPECT_EQ(memory, expected);
 }

@@ -14,7 +14,9 @@ TEST(Cp1252Test, EveryByteSurvivesTheRoundTrip) {
     for (int i = 0; i < 256; ++i) all += static_cast<char>(i);
     EXPECT_EQ(fromUtf8(toUtf8(all)), all);
     EXPECT_EQ(toUtf8("\x80\xE4\xDF"), "€äß");
-    EXPECT_EQ(fromUtf8("Größe €"), "Gr\xF6\xDF" "e \x80");
+    EXPECT_EQ(fromUtf8("Größe €"),
+              "Gr\xF6\xDF"
+              "e \x80");
 }
 
 TEST(Cp1252Test, UnknownAndBrokenInputBecomesQuestionMarks) {

@@ -212,8 +212,7 @@ void Assistent52::writeTimer2(ProgramParts& out, const GenerationContext& contex
             }
             break;
         }
-        default:
-            break;
+        default: break;
     }
 
     if (used) {

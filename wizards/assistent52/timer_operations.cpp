@@ -183,22 +183,15 @@ void Assistent52::T2Combo1Click() {
     s_.T2Text4.enabled = s_.T2Text5.enabled = true;
     switch (s_.T2Combo1.listIndex) {
         case 1:
-        case 2:
-            s_.T2Command1.enabled = true;
-            break;
+        case 2: s_.T2Command1.enabled = true; break;
         case 3:
-        case 7:
-            s_.T2Text4.enabled = s_.T2Text5.enabled = false;
-            break;
+        case 7: s_.T2Text4.enabled = s_.T2Text5.enabled = false; break;
         case 8:
             s_.T2Command1.enabled = true;
             s_.T2Check1.visible = s_.T2Frame1.visible = true;
             break;
-        case 9:
-            s_.T2Check1.visible = s_.T2Frame1.visible = true;
-            break;
-        default:
-            break;
+        case 9: s_.T2Check1.visible = s_.T2Frame1.visible = true; break;
+        default: break;
     }
     regenerateProgram();
 }

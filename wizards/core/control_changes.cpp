@@ -5,7 +5,9 @@
 namespace korvex::wizards {
 namespace {
 
-std::string flag(bool on) { return on ? "1" : "0"; }
+std::string flag(bool on) {
+    return on ? "1" : "0";
+}
 
 ControlSnapshot::Shown shownState(const ControlRef& ref) {
     ControlSnapshot::Shown shown;

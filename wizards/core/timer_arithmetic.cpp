@@ -21,14 +21,10 @@ OverflowRate overflowRate(float fosc, double divisor, int cycleDivider) {
 
 double timer01Divisor(int mode, std::int32_t reload) {
     switch (mode) {
-        case 0:
-            return 8192;
-        case 1:
-            return 65536;
-        case 2:
-            return 256.0 - reload;  // a long field text must not wrap
-        default:
-            return 256;
+        case 0: return 8192;
+        case 1: return 65536;
+        case 2: return 256.0 - reload;  // a long field text must not wrap
+        default: return 256;
     }
 }
 

@@ -5,8 +5,8 @@
 
 #include "base/cp1252.h"
 #include "base/failure.h"
-#include "wizards/core/timer_arithmetic.h"
 #include "wizard_fixture.h"
+#include "wizards/core/timer_arithmetic.h"
 
 namespace korvex::wizards {
 namespace {

@@ -8,9 +8,9 @@
 
 #include "base/cp1252.h"
 #include "base/failure.h"
-#include "wizards/core/comment_colouring.h"
-#include "wizard_fixture.h"
 #include "testing/scripted_host.h"
+#include "wizard_fixture.h"
+#include "wizards/core/comment_colouring.h"
 #include "wizards/wizard_factory.h"
 
 namespace korvex::wizards::testing {
@@ -295,11 +295,11 @@ TEST_F(ChangeNotification, ReportsWhatTheActionChangedAndNothingElse) {
 TEST(HostWizardHost, PutsQuestionsNotesAndInputsOnTheHost) {
     ScriptedHost host({MessageAnswer::Yes, MessageAnswer::No});
     std::vector<std::string> prompted;
-    HostWizardHost boxes(host, [&](const std::string& title, const std::string& text,
-                                   const std::string& answer) {
-        prompted = {title, text, answer};
-        return std::string("11,0592");
-    });
+    HostWizardHost boxes(
+        host, [&](const std::string& title, const std::string& text, const std::string& answer) {
+            prompted = {title, text, answer};
+            return std::string("11,0592");
+        });
     EXPECT_TRUE(boxes.question("Konflikt", "Aufheben?"));
     EXPECT_FALSE(boxes.question("Konflikt", "Aufheben?"));
     boxes.note("Hinweis");

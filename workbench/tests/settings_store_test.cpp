@@ -10,9 +10,9 @@
 
 #include "base/cp1252.h"
 #include "base/program_folder.h"
+#include "testing/scripted_host.h"
 #include "workbench/settings_file.h"
 #include "workbench/settings_store.h"
-#include "testing/scripted_host.h"
 
 namespace korvex {
 namespace {

@@ -75,7 +75,9 @@ enum class Finding : std::int16_t {
     DriverUnreadable = 199,
 };
 
-constexpr int findingNumber(Finding finding) { return static_cast<int>(finding); }
+constexpr int findingNumber(Finding finding) {
+    return static_cast<int>(finding);
+}
 
 enum class FindingKind { Retried, Final };
 

@@ -15,7 +15,7 @@ namespace korvex {
 
 template <std::size_t Columns>
 class TextTable {
-public:
+  public:
     using Row = std::array<std::string, Columns>;
 
     TextTable() { reset(); }
@@ -88,7 +88,7 @@ public:
         return hit == index_.end() ? std::vector<int>{} : hit->second;
     }
 
-private:
+  private:
     void indexKey(const std::string& key, int i) {
         if (key.empty()) return;
         auto& rowsOfKey = index_[key];

@@ -16,7 +16,9 @@ std::string toUtf8(std::string_view cp1252);
 std::string fromUtf8(std::string_view utf8);
 
 // A German literal of the C++ source (UTF-8) entering the 8-bit world.
-inline std::string text8(std::string_view utf8) { return fromUtf8(utf8); }
+inline std::string text8(std::string_view utf8) {
+    return fromUtf8(utf8);
+}
 
 // Upper-casing that folds the Windows-1252 letters too (ä to Ä, š to Š, ÿ to Ÿ).
 char upperChar(char c);

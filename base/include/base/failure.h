@@ -75,8 +75,7 @@ std::string failureDetails(const RuntimeFailure& failure);
 // ausgelöst von " with the source. The boxes differ in their lead ("Fehler
 // Nummer", "Fehler", "Fehler # ") and in the blank that the classic Str$
 // puts before a number (`strBlank`); all build the line here.
-std::string failureHeadline(const std::string& lead, const RuntimeFailure& failure,
-                            bool strBlank);
+std::string failureHeadline(const std::string& lead, const RuntimeFailure& failure, bool strBlank);
 
 // The text of the failure box of a trap: the classic three lines, then the
 // file and the hint when the failure has them.

@@ -14,7 +14,7 @@ enum class MessageIcon { None, Information, Question, Exclamation, Critical };
 enum class MessageAnswer { Ok, Cancel, Yes, No };
 
 class Host {
-public:
+  public:
     virtual ~Host();
 
     virtual MessageAnswer messageBox(const std::string& title, const std::string& text,
@@ -37,7 +37,7 @@ public:
 // remembered, dialog text is collected, and the editor windows are a map from
 // caption to text.
 class QuietHost : public Host {
-public:
+  public:
     MessageAnswer messageBox(const std::string& title, const std::string& text,
                              MessageButtons buttons, MessageIcon icon) override;
     void processPendingEvents() override {}
