@@ -3,7 +3,8 @@
 # installs what is missing; otherwise it names the missing packages.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ clang clang-format pkg-config libgtest-dev libbenchmark-dev as31 srecord sdcc-ucsim d52)
+packages=(cmake ninja-build g++ clang clang-format pkg-config libgtest-dev libbenchmark-dev as31 srecord sdcc-ucsim d52
+          qt6-base-dev qt6-translations-l10n libgl-dev)
 
 missing=()
 for package in "${packages[@]}"; do
