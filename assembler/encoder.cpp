@@ -56,7 +56,7 @@ void Assembler::encodeInstruction() {
     growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
     row.retry = false;
-    row.marker.clear();
+    state_.clearMarker(state_.currentRow);
 
     auto& t = state_.tokens;
     t[0] = upperCase(t[0]);
@@ -250,7 +250,8 @@ void Assembler::encodeImplicitCall() {
         // The second pass then sees an ordinary call statement.
         row.retry = true;
         state_.errorNumber = Finding::InstructionNotRecognised;
-        row.statement = (state_.useLongCall ? "LCALL " : "ACALL ") + row.statement;
+        row.statement = state_.keepText((state_.useLongCall ? "LCALL " : "ACALL ") +
+                                        std::string(state_.textOf(row.statement)));
     }
 }
 

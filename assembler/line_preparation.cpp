@@ -12,8 +12,7 @@ void Assembler::prepareLine(std::string& line) {
     counter += 1;
     cleanText(line);
     growRowsTo(state_.currentRow);
-    const std::string position = positionText();
-    state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].position = position;
+    placeRow(state_.sourceTable[static_cast<std::size_t>(state_.currentRow)]);
 
     if (line.empty() || line.front() == ';') {
         setCodeText(std::string(kFourTabs));
@@ -28,7 +27,7 @@ void Assembler::prepareLine(std::string& line) {
     }
     const std::size_t firstColon = line.find(':');
     if (firstColon != std::string::npos && firstColon + 1 == line.size()) {
-        defineLabel(line, position);
+        defineLabel(line, positionText());
         return;
     }
     expandAllMacros(line);
@@ -66,7 +65,7 @@ void Assembler::prepareLine(std::string& line) {
 void Assembler::processStatement(std::string& text) {
     if (!state_.secondPass) growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
-    row.statement = text;
+    row.statement = state_.keepText(text);
 
     for (char& c : text) {
         if (c == '\t') c = ' ';
@@ -80,7 +79,7 @@ void Assembler::processStatement(std::string& text) {
     state_.statementCopy = text;
     splitTokens(text);
 
-    if (!state_.secondPass) row.position = positionText();
+    if (!state_.secondPass) placeRow(row);
     if (state_.errorNumber == Finding::None) {
         encodeInstruction();
     } else {

@@ -134,6 +134,8 @@ class Assembler {
     void growRowsTo(std::int32_t row);
     void setCodeText(const std::string& text);
     std::string positionText() const;
+    // Gives a row the place of the line being read.
+    void placeRow(SourceRow& row) const;
 
     // Instruction families, in the order of the dispatch.
     void encodeArithmetic();
