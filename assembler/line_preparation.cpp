@@ -70,12 +70,18 @@ void Assembler::processStatement(std::string& text) {
     for (char& c : text) {
         if (c == '\t') c = ' ';
     }
-    text = trimBlanks(text);
-    if (text.empty()) return;
+    const std::size_t last = text.find_last_not_of(' ');
+    if (last == std::string::npos) {
+        text.clear();
+        return;
+    }
+    text.erase(last + 1);
+    text.erase(0, text.find_first_not_of(' '));
 
     // Tables keep their quoted texts; the test looks at the two letters only.
-    const std::string head = upperCase(text.substr(0, 2));
-    if (head != "DB" && head != "DW") foldCharacterLiterals(text);
+    const bool table = text.size() >= 2 && upperChar(text[0]) == 'D' &&
+                       (upperChar(text[1]) == 'B' || upperChar(text[1]) == 'W');
+    if (!table) foldCharacterLiterals(text);
     state_.statementCopy = text;
     splitTokens(text);
 
@@ -113,7 +119,7 @@ void Assembler::foldCharacterLiterals(std::string& text) {
 
 void Assembler::splitTokens(const std::string& text) {
     auto& tokens = state_.tokens;
-    tokens = {};
+    for (std::string& token : tokens) token.clear();
     const std::size_t blank = text.find(' ');
     const std::size_t comma = text.find(',');
     const std::size_t secondComma =
@@ -126,16 +132,16 @@ void Assembler::splitTokens(const std::string& text) {
         tokens[0] = text;
         return;
     }
-    tokens[0] = text.substr(0, blank);
+    tokens[0].assign(text, 0, blank);
     if (comma == std::string::npos) {
-        tokens[1] = text.substr(blank + 1);
+        tokens[1].assign(text, blank + 1);
     } else if (secondComma == std::string::npos) {
-        tokens[1] = text.substr(blank + 1, comma - blank - 1);
-        tokens[2] = text.substr(comma + 1);
+        tokens[1].assign(text, blank + 1, comma - blank - 1);
+        tokens[2].assign(text, comma + 1);
     } else {
-        tokens[1] = text.substr(blank + 1, comma - blank - 1);
-        tokens[2] = text.substr(comma + 1, secondComma - comma - 1);
-        tokens[3] = text.substr(secondComma + 1);
+        tokens[1].assign(text, blank + 1, comma - blank - 1);
+        tokens[2].assign(text, comma + 1, secondComma - comma - 1);
+        tokens[3].assign(text, secondComma + 1);
     }
 }
 
