@@ -62,6 +62,7 @@ void Assembler::resetRun() {
     state_.sourceTable.assign(1, SourceRow{});
     state_.markers.clear();
     state_.rowTexts.clear();
+    state_.markerTexts.clear();
     state_.constantTable.reset();
     state_.byteTable.reset();
     state_.wordTable.reset();
@@ -247,7 +248,7 @@ void Assembler::recordError() {
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
     const int number = findingNumber(state_.errorNumber);
     if (findingKind(number) == FindingKind::Retried) row.retry = true;
-    state_.markerAt(state_.currentRow) = catalogueMarker(number);
+    state_.setMarker(state_.currentRow, catalogueMarker(number));
     state_.errorNumber = Finding::None;
 }
 

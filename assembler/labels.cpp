@@ -26,7 +26,7 @@ void Assembler::defineLabel(std::string& text, const std::string& position) {
         state_.codeAddress = state_.numberResult;
     } else if (row >= 0) {
         growRowsTo(state_.currentRow);
-        state_.markerAt(state_.currentRow) = findingMarker(Finding::LabelDefinedTwice);
+        state_.setMarker(state_.currentRow, findingMarker(Finding::LabelDefinedTwice));
         ++state_.currentRow;
         return;
     } else {

@@ -33,7 +33,8 @@ void Assembler::prepareLine(std::string& line) {
     expandAllMacros(line);
 
     // Statement boundaries: colons outside quotes and braces.
-    std::vector<std::size_t> colons;
+    std::vector<std::size_t>& colons = statementEnds_;
+    colons.clear();
     if (line.find(':') != std::string::npos) {
         if (line.size() > 32767) raise(FailureNumber::Overflow);  // the walk counts in 16 bits
         bool inQuote = false;

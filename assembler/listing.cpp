@@ -38,7 +38,7 @@ std::string Assembler::listingText() const {
         text += row.position();
         text += '\t';
         text += state_.textOf(row.sourceText);
-        if (const std::string& marker = state_.markerOf(i); !marker.empty()) {
+        if (const std::string_view marker = state_.markerOf(i); !marker.empty()) {
             text += '\t';
             text += marker;
         }

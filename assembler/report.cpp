@@ -40,7 +40,9 @@ void clashLines(const TextTable<N>& first, const TextTable<M>& second, const std
 void Assembler::buildReport(std::int32_t endOfCode) {
     auto& state = state_;
     std::string warnings;
-    for (const auto& [index, marker] : state.markers) {
+    for (const RowMarker& entry : state.markers) {
+        const auto index = entry.row;
+        const std::string marker(state.markerText(entry));
         if (trimBlanks(marker).empty()) continue;
         if (static_cast<std::size_t>(index) >= state.sourceTable.size()) continue;
         SourceRow& row = state.sourceTable[static_cast<std::size_t>(index)];

@@ -32,7 +32,7 @@ void Assembler::growForNewRow() {
 
 void Assembler::markOutOfRange(std::int32_t line) {
     growRowsTo(line);
-    state_.markerAt(line) = findingMarker(Finding::ExitOutOfRange);
+    state_.setMarker(line, findingMarker(Finding::ExitOutOfRange));
 }
 
 void Assembler::patchLastByte(std::int32_t line, std::int32_t length, std::int32_t distance) {
@@ -353,7 +353,7 @@ bool Assembler::compileFor() {
     std::int32_t counter = 0;
     classifyOperand(t[1], cls, counter);
     if (cls != ClassRegister && cls != ClassDirect) {
-        state_.markerAt(state_.currentRow) += findingMarker(Finding::ExitConditionInvalid);
+        state_.appendMarker(state_.currentRow, findingMarker(Finding::ExitConditionInvalid));
         return false;
     }
     if (counter > 255) {

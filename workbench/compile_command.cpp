@@ -12,13 +12,15 @@ namespace korvex {
 
 std::vector<FindingPlace> findingsOf(const RunState& state) {
     std::vector<FindingPlace> findings;
-    const bool anyMarker = std::any_of(state.markers.begin(), state.markers.end(),
-                                       [](const auto& entry) { return !entry.second.empty(); });
+    const bool anyMarker =
+        std::any_of(state.markers.begin(), state.markers.end(),
+                    [](const RowMarker& entry) { return entry.text.length > 0; });
     if (!anyMarker) return findings;
     const std::vector<SourcePlace> places = sourcePlaces(state);
     constexpr std::string_view kMark = ";>err";
-    for (const auto& [index, marker] : state.markers) {
-        const auto row = static_cast<std::size_t>(index);
+    for (const RowMarker& entry : state.markers) {
+        const std::string marker(state.markerText(entry));
+        const auto row = static_cast<std::size_t>(entry.row);
         if (row >= state.sourceTable.size() || row >= places.size()) continue;
         if (!startsWith(marker, kMark)) continue;
         std::size_t at = kMark.size();

@@ -64,7 +64,7 @@ AssemblerFixture::RowColumns AssemblerFixture::row(int index) const {
     const RunState& state = assembler_->state();
     const auto at = static_cast<std::size_t>(index + rowOffset_);
     const SourceRow& row = state.sourceTable.at(at);
-    return {state.markerOf(at), row.position(), std::string(state.statementOf(at)),
+    return {std::string(state.markerOf(at)), row.position(), std::string(state.statementOf(at)),
             std::string(state.sourceTextOf(at)), row.retry};
 }
 
@@ -81,7 +81,9 @@ int AssemblerFixture::markerNumber(int index) const {
 std::vector<std::string> AssemblerFixture::markers() const {
     std::vector<std::string> out;
     const RunState& state = assembler_->state();
-    for (const auto& [index, marker] : state.markers) {
+    for (const RowMarker& entry : state.markers) {
+        const auto index = entry.row;
+        const std::string marker(state.markerText(entry));
         const auto at = static_cast<std::size_t>(index);
         if (!marker.empty() && at < state.sourceTable.size())
             out.push_back(state.sourceTable[at].position() + " " + marker);

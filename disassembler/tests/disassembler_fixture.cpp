@@ -65,7 +65,9 @@ std::string DisassemblerFixture::assemble(const std::string& source,
     if (findings != nullptr) {
         findings->clear();
         const RunState& state = assembler.state();
-        for (const auto& [index, marker] : state.markers) {
+        for (const RowMarker& entry : state.markers) {
+            const auto index = entry.row;
+            const std::string marker(state.markerText(entry));
             if (!marker.empty() && static_cast<std::size_t>(index) < state.sourceTable.size())
                 findings->push_back(
                     std::string(state.statementOf(static_cast<std::size_t>(index))) + " " + marker);

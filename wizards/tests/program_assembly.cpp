@@ -41,7 +41,9 @@ AssembledProgram assembleProgram(const std::string& program, const std::string& 
     result.completed = assembler.assembleSource(name, {}) == RunOutcome::Completed;
     const RunState& state = assembler.state();
     result.report = state.reportText;
-    for (const auto& [index, marker] : state.markers) {
+    for (const RowMarker& entry : state.markers) {
+        const auto index = entry.row;
+        const std::string marker(state.markerText(entry));
         const auto at = static_cast<std::size_t>(index);
         if (!marker.empty() && at < state.sourceTable.size()) {
             result.findings.push_back(state.sourceTable[at].position() + " " + marker + " " +

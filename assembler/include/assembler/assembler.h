@@ -197,6 +197,9 @@ class Assembler {
     RunState state_;
     CpuDriver driver_;
     bool abortRequested_ = false;
+    // Where the statements of the line being prepared end; kept to spare an
+    // allocation per line.
+    std::vector<std::size_t> statementEnds_;
     std::map<int, SourceFile> files_;
 };
 

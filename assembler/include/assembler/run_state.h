@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +20,12 @@ namespace korvex {
 struct RowText {
     std::uint32_t at = 0;
     std::uint32_t length = 0;
+};
+
+// A finding or note on one row.
+struct RowMarker {
+    std::int32_t row = 0;
+    RowText text;
 };
 
 // One row per statement. A run holds one per line of a large source, so the
@@ -140,16 +145,20 @@ struct RunState {
         return textOf(sourceTable[row].sourceText);
     }
 
-    // The ";>err..." findings and table notes by row; a row without one is clean.
-    std::map<std::int32_t, std::string> markers;
-
-    // The marker of a row, empty when it has none.
-    const std::string& markerOf(std::size_t row) const;
-    // The marker of a row to write or extend.
-    std::string& markerAt(std::int32_t row) { return markers[row]; }
-    void clearMarker(std::int32_t row) {
-        if (!markers.empty()) markers.erase(row);
+    // The ";>err..." findings and table notes, by row in rising order, with
+    // their texts in a buffer of their own, so that the many markers of forward
+    // references don't make rowTexts move. A row without one, or with an empty
+    // one, is clean.
+    std::vector<RowMarker> markers;
+    std::string markerTexts;
+    std::string_view markerText(const RowMarker& marker) const {
+        return std::string_view(markerTexts).substr(marker.text.at, marker.text.length);
     }
+
+    std::string_view markerOf(std::size_t row) const;
+    void setMarker(std::int32_t row, std::string_view text);
+    void appendMarker(std::int32_t row, std::string_view text);
+    void clearMarker(std::int32_t row);
 
     TextTable<4> labelTable;     // key, decimal address, use mark, "name: Zeile pos"
     TextTable<3> sfrTable;       // name, hexadecimal address, "1"
