@@ -97,14 +97,17 @@ QWidget* SetupDialog::toolbarPage() {
     position_->setPageStep(1);
     position_->setTickPosition(QSlider::TicksBelow);
     position_->setValue(std::clamp(noted_.align, 1, 4) - 1);
-    auto* ticks = new QHBoxLayout;
+    // Six equal columns put the middle labels under the ticks at a third and two thirds.
+    auto* ticks = new QGridLayout;
     const QString places[] = {QStringLiteral(" oben "), QStringLiteral(" unten "),
                               QStringLiteral(" links "), QStringLiteral(" rechts ")};
+    const int columns[] = {0, 1, 3, 5};
     for (int i = 0; i < 4; ++i) {
         auto* label = named(new QLabel(places[i]), indexed("SetupLabel1", i));
-        label->setAlignment(i == 0 ? Qt::AlignLeft : i == 3 ? Qt::AlignRight : Qt::AlignCenter);
-        ticks->addWidget(label, 1);
+        label->setAlignment(i == 0 ? Qt::AlignLeft : i == 3 ? Qt::AlignRight : Qt::AlignHCenter);
+        ticks->addWidget(label, 0, columns[i], 1, i == 0 || i == 3 ? 1 : 2);
     }
+    for (int column = 0; column < 6; ++column) ticks->setColumnStretch(column, 1);
     auto* positionLayout = new QVBoxLayout(positionBox);
     positionLayout->addWidget(position_);
     positionLayout->addLayout(ticks);

@@ -135,6 +135,23 @@ TEST(MainWindow, CommandsOfLaterWindowsSayInGermanThatTheyArentThereYet) {
     EXPECT_NE(bench.host.boxes[1].text.find("Controller festlegen"), std::string::npos);
 }
 
+TEST(MainWindow, KeysReachTheirCommandsAndCtrlF4DoesntCloseTheWindow) {
+    Bench bench;
+    QApplication::setActiveWindow(&bench.window);
+    bench.text()->setFocus();
+    QTest::keyClick(bench.text(), Qt::Key_F5);
+    QTest::keyClick(bench.text(), Qt::Key_F4, Qt::ControlModifier);
+    ASSERT_EQ(bench.host.boxes.size(), 2u);
+    EXPECT_NE(bench.host.boxes[1].text.find("Entkommentieren"), std::string::npos);
+    Bench::settle();
+    EXPECT_EQ(bench.windows(), 1);
+    QTest::keyClicks(bench.text(), "nop");
+    QTest::keyClick(bench.text(), Qt::Key_U, Qt::ControlModifier);
+    ASSERT_EQ(bench.dialogs.requests.size(), 1u);
+    EXPECT_EQ(bench.dialogs.requests[0].title, "Speichern unter");
+    EXPECT_EQ(bench.dialogs.requests[0].fileName, "Unbenannt");
+}
+
 TEST(MainWindow, EveryCommandHasItsCaptionKeyAndToolTip) {
     Bench bench;
     CommandMenus& menus = *bench.window.menus();
