@@ -56,6 +56,9 @@ int main(int argc, char* argv[]) {
     korvex::gui::QtFileDialogs dialogs;
     korvex::gui::QtUserSettingsStore userStore;
     korvex::gui::MainWindow window(programFolder, {host, dialogs, userStore});
+    host.windowText = [&window](const std::string& caption) {
+        return window.openWindowText(caption);
+    };
     window.show();
     if (!window.start(line.source)) return 0;
     return QApplication::exec();

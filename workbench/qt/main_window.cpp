@@ -129,6 +129,14 @@ std::vector<EditorWindow*> MainWindow::editors() const {
     return all;
 }
 
+std::optional<std::string> MainWindow::openWindowText(const std::string& caption) const {
+    const std::string wanted = upperCase(caption);
+    for (const auto& [frame, document] : frames_) {
+        if (upperCase(document->caption()) == wanted) return document->text();
+    }
+    return std::nullopt;
+}
+
 // --- the workspace of the document commands ---
 
 DocumentWindow* MainWindow::createDocumentWindow() {

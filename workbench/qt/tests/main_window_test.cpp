@@ -146,10 +146,14 @@ TEST(MainWindow, KeysReachTheirCommandsAndCtrlF4DoesntCloseTheWindow) {
     Bench::settle();
     EXPECT_EQ(bench.windows(), 1);
     QTest::keyClicks(bench.text(), "nop");
+    QTest::keyClick(bench.text(), Qt::Key_Return);
+    EXPECT_EQ(bench.window.findChild<QLabel*>(QStringLiteral("StbarZeile"))->text(),
+              QStringLiteral("Zeile 2"));
     QTest::keyClick(bench.text(), Qt::Key_U, Qt::ControlModifier);
     ASSERT_EQ(bench.dialogs.requests.size(), 1u);
     EXPECT_EQ(bench.dialogs.requests[0].title, "Speichern unter");
     EXPECT_EQ(bench.dialogs.requests[0].fileName, "Unbenannt");
+    EXPECT_EQ(bench.window.openWindowText("unbenannt 1"), "nop\r\n");
 }
 
 TEST(MainWindow, EveryCommandHasItsCaptionKeyAndToolTip) {

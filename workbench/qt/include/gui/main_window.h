@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "base/host.h"
@@ -59,6 +60,9 @@ class MainWindow : public QMainWindow, private Workspace {
     // The active source window, nullptr when another window or none is active.
     EditorWindow* activeEditor() const;
     std::vector<EditorWindow*> editors() const;
+    // The text of the source window with this caption (compared in upper
+    // case), as a run reads an include that is open.
+    std::optional<std::string> openWindowText(const std::string& caption) const;
 
     // Shows colours at once in every open window (the settings dialog's
     // preview), without storing them.
