@@ -265,6 +265,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 void MainWindow::frameDestroyed(QMdiSubWindow* frame) {
     const auto found = frames_.find(frame);
     if (closing_ || found == frames_.end()) return;
+    // The editor goes after its frame: it has nothing more to tell.
+    if (EditorWindow* editor = found->second->editor()) {
+        disconnect(editor, nullptr, this, nullptr);
+        disconnect(editor->textEdit(), nullptr, this, nullptr);
+    }
     commands_.DocumentClosed(*found->second);
     frames_.erase(found);
     refreshCommands();

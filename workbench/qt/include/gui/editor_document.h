@@ -9,7 +9,6 @@
 #include "gui/editor_window.h"
 #include "workbench/document_window.h"
 
-
 namespace korvex::gui {
 
 class EditorDocument : public DocumentWindow {
