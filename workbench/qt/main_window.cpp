@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QProgressBar>
 #include <QStatusBar>
 #include <QTextEdit>
 
@@ -92,6 +93,12 @@ void MainWindow::buildStatusBar() {
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
     statusBar()->addWidget(lineLabel_);
     statusBar()->addWidget(modeLabel_);
+    progress_ = new QProgressBar;
+    progress_->setObjectName(QStringLiteral("ProgressBar1"));
+    progress_->setRange(0, 100);
+    progress_->setMaximumWidth(200);
+    progress_->hide();
+    statusBar()->addPermanentWidget(progress_);
     statusBar()->addPermanentWidget(controllerLabel_);
 }
 

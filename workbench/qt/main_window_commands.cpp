@@ -51,6 +51,8 @@ void MainWindow::registerCommands() {
         {"mnuEGoto",
          onText([this](EditorWindow* e) { askAndGoToLine(e->textEdit(), e->caretLine(), this); })},
         {"mnuELesezeichenEntfernen", onText([](EditorWindow* e) { e->removeBookmarks(); })},
+        {"MnCompDisass", [this] { disassemble(); }},
+        {"mnuDisasKonfig", [this] { configureDisassembler(); }},
         {"mnuOExtensions", [this] { editExtensions(); }},
         {"mnuOToolbar", [this] { editSetup(); }},
         {"mnuFont", [this] { chooseFont(); }},

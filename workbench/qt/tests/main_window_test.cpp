@@ -181,7 +181,8 @@ TEST(MainWindow, EveryCommandHasItsCaptionKeyAndToolTip) {
                                  "mnuEGoto",       "mnuFont",       "mnuWleft",
                                  "mnuWRight",      "mnuWCascade",   "mnuWTile",
                                  "mnuWArrange",    "mnuESelectAll", "mnuELesezeichenEntfernen",
-                                 "mnuOExtensions", "mnuOToolbar"};
+                                 "mnuOExtensions", "mnuOToolbar",   "MnCompDisass",
+                                 "mnuDisasKonfig"};
     int told = 0;
     for (const MenuRow& row : menuRows()) {
         const QString name = QString::fromLatin1(row.name != nullptr ? row.name : "");

@@ -13,6 +13,7 @@
 #include <string>
 
 #include "base/host.h"
+#include "disassembler/disassembler.h"
 #include "gui/editor_document.h"
 #include "workbench/command_visibility.h"
 #include "workbench/document_table.h"
@@ -25,6 +26,7 @@ class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
+class QProgressBar;
 
 namespace korvex::gui {
 
@@ -96,6 +98,8 @@ class MainWindow : public QMainWindow, private Workspace {
     void fillWindowMenu(QMenu* menu);
     void notAvailable(const QString& name);
 
+    void disassemble();
+    void configureDisassembler();
     void print();
     void chooseFont();
     void editExtensions();
@@ -116,6 +120,9 @@ class MainWindow : public QMainWindow, private Workspace {
     QLabel* lineLabel_ = nullptr;
     QLabel* modeLabel_ = nullptr;
     QLabel* controllerLabel_ = nullptr;
+    QProgressBar* progress_ = nullptr;
+    // SortAddresses and WithLabels: off at every start, not stored.
+    DisassemblerOptions disassemblerOptions_;
     QList<QAction*> windowList_;
     std::map<QMdiSubWindow*, std::unique_ptr<EditorDocument>> frames_;
     QHash<QString, std::function<void()>> handlers_;
