@@ -21,12 +21,10 @@ EditorWindow::EditorWindow(EditorFlags& flags, const Settings& settings, QWidget
     layout->addWidget(text_);
     applySettings(settings);
     connect(text_, &QTextEdit::textChanged, this, [this] {
-        if (!flags_.SuspendChange)
-            emit textEdited();
+        if (!flags_.SuspendChange) emit textEdited();
     });
     connect(text_, &QTextEdit::cursorPositionChanged, this, [this] {
-        if (!flags_.SuspendSelChange)
-            emit selectionTouched();
+        if (!flags_.SuspendSelChange) emit selectionTouched();
         emit caretStateChanged();
     });
 }

@@ -16,7 +16,7 @@ namespace korvex::gui {
 class EditorWindow : public QWidget {
     Q_OBJECT
 
-public:
+  public:
     EditorWindow(EditorFlags& flags, const Settings& settings, QWidget* parent = nullptr);
     ~EditorWindow() override;
 
@@ -44,7 +44,7 @@ public:
     int caretLine() const;
     bool overwriteMode() const;
 
-signals:
+  signals:
     // The user changed the text (not code): the document becomes dirty.
     void textEdited();
     // The selection changed while the handler was not suspended: this window
@@ -53,7 +53,7 @@ signals:
     // Caret line or insert/overwrite mode changed.
     void caretStateChanged();
 
-private:
+  private:
     EditorFlags& flags_;
     QTextEdit* text_ = nullptr;
     int slot_ = 0;
