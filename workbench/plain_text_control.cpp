@@ -26,8 +26,8 @@ void PlainTextControl::SetText(std::string_view text) {
     selStart_ = 0;
     selLength_ = 0;
     caretFormat_.reset();
-    NotifyChange();
     notifySelectionIfMoved();
+    NotifyChange();
 }
 
 void PlainTextControl::SetSelStart(std::int32_t start) {
@@ -215,8 +215,8 @@ void PlainTextControl::replace(std::int32_t start, std::int32_t end, const std::
     selStart_ = start + static_cast<std::int32_t>(text.size());
     selLength_ = 0;
     caretFormat_.reset();
-    NotifyChange();
     notifySelectionIfMoved();
+    NotifyChange();
 }
 
 void PlainTextControl::select(std::int32_t start, std::int32_t end) {

@@ -59,13 +59,18 @@ void TextControl::LoadFile(const std::string& path, TextFileType type) {
     SetText(type == TextFileType::Rtf ? plainTextOfRtf(bytes) : bytes);
 }
 
-void TextControl::SaveFile(const std::string& path, TextFileType type) const {
+std::string TextControl::TextWithoutPictures() const {
     std::string text = Text();
     std::vector<std::int32_t> pictures = PicturePositions();
     std::sort(pictures.rbegin(), pictures.rend());
-    for (std::int32_t at : pictures)
-        if (at >= 0 && at < static_cast<std::int32_t>(text.size()))
+    for (const std::int32_t at : pictures)
+        if (at >= 0 && static_cast<std::size_t>(at) < text.size())
             text.erase(static_cast<std::size_t>(at), 1);
+    return text;
+}
+
+void TextControl::SaveFile(const std::string& path, TextFileType type) const {
+    const std::string text = TextWithoutPictures();
     replaceFileAtomically(path, type == TextFileType::Rtf ? rtfOfPlainText(text) : text);
 }
 

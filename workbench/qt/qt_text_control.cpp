@@ -221,11 +221,10 @@ void QtTextControl::onTextChanged() {
 }
 
 void QtTextControl::finishOperation() {
-    if (pendingChange_) {
-        pendingChange_ = false;
-        NotifyChange();
-    }
+    const bool changed = pendingChange_;
+    pendingChange_ = false;
     notifySelectionIfMoved();
+    if (changed) NotifyChange();
 }
 
 void QtTextControl::notifySelectionIfMoved() {

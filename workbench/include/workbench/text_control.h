@@ -41,8 +41,10 @@ struct TextFont {
 
 // The control's two events. Both arrive while the operation that caused them
 // is still on the stack, so a handler that edits by code re-enters them at
-// once; the editor's flags exist for that. After a change of the text,
-// Change comes first, then SelChange if the selection moved.
+// once; the editor's flags exist for that. When the text changes, SelChange
+// comes first if the selection moved, then Change: so a text emptied by a
+// key reaches the selection handler before the change handler moves the
+// selection about.
 class TextControlListener {
   public:
     virtual ~TextControlListener();
@@ -135,6 +137,9 @@ class TextControl {
     // its position returned, else -1 and the selection stays.
     std::int32_t Find(std::string_view term, std::int32_t start, std::int32_t end = -1,
                       int options = 0);
+
+    // The text as it is saved and assembled: without its pictures.
+    std::string TextWithoutPictures() const;
 
     // Type Plain reads the bytes as text; type Rtf keeps the text of an RTF
     // file. Failures are RuntimeFailures naming the file. Saving writes

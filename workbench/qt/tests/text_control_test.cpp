@@ -297,7 +297,7 @@ TYPED_TEST(TextControlTest, APictureIsOneCharacterThatTheTextShowsAsABlank) {
     EXPECT_TRUE(box.PicturePositions().empty());
 }
 
-TYPED_TEST(TextControlTest, ReportsAChangeOfTextThenTheMovedSelection) {
+TYPED_TEST(TextControlTest, ReportsAMovedSelectionThenTheChangeOfText) {
     TextControl& box = this->box;
     box.SetText("abc\r\ndef");
     EventLog log;
@@ -312,12 +312,12 @@ TYPED_TEST(TextControlTest, ReportsAChangeOfTextThenTheMovedSelection) {
     EXPECT_EQ(log.events, (std::vector<std::string>{"SelChange"}));
     log.events.clear();
     box.SetSelText("xy");
-    EXPECT_EQ(log.events, (std::vector<std::string>{"Change", "SelChange"}));
+    EXPECT_EQ(log.events, (std::vector<std::string>{"SelChange", "Change"}));
     log.events.clear();
     box.SetSelStart(0);
     log.events.clear();
     box.InsertPicture();
-    EXPECT_EQ(log.events, (std::vector<std::string>{"Change", "SelChange"}));
+    EXPECT_EQ(log.events, (std::vector<std::string>{"SelChange", "Change"}));
     log.events.clear();
     box.SetSelStart(0);
     box.SetSelText("");  // nothing to replace, nothing changed

@@ -5,10 +5,9 @@
 // to date from the document's own change reports, makes reading cheap and
 // carries the positions across.
 //
-// Notifications: a change made through this interface reports Change and
-// SelChange once it is complete, as the plain model does; a change by the
-// user reports them when the widget has finished it. Listeners must not
-// throw.
+// Events: a change made through this interface reports SelChange and Change
+// once it is complete, as the plain model does; a change by the user reports
+// them when the widget has finished it. Listeners must not throw.
 
 #include <QImage>
 #include <QObject>
