@@ -72,6 +72,18 @@ void FormatPastedText(TextControl& box, const Settings& settings) {
     applySettingsFont(box, settings);
 }
 
+void ApplyWrapSettings(TextControl& box, EditorFlags& flags, const Settings& settings) {
+    FlagGuard selection(flags.SuspendSelChange);
+    FlagGuard change(flags.SuspendChange);
+    OutOfSight hidden(box);
+    const std::int32_t caret = box.SelStart();
+    box.Select(0, box.TextLength());
+    box.SetSelIndent(120);
+    box.SetSelHangingIndent(settings.HangingIndent ? 600 : 0);
+    box.SetRightMargin(settings.NoRightWrap ? 12000 : 0);
+    box.SetSelStart(caret);
+}
+
 void ApplyDisassemblyParagraphs(TextControl& box) {
     static constexpr std::array<std::int32_t, 6> kTabs{700, 1130, 1560, 1990, 2160, 4300};
     box.SetSelTabCount(static_cast<int>(kTabs.size()));

@@ -41,8 +41,6 @@ void QtTextControl::SetText(std::string_view text) {
     QTextCursor cursor(document_);
     cursor.select(QTextCursor::Document);
     cursor.insertText(lines, format);
-    QTextCursor first(document_);
-    first.setBlockCharFormat(format);
     selectQt(0, 0);
 }
 

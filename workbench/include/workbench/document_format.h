@@ -32,6 +32,10 @@ void FormatDocumentText(TextControl& box, EditorFlags& flags, const Settings& se
 // the settings' font, black.
 void FormatPastedText(TextControl& box, const Settings& settings);
 
+// After the settings dialog changed HangingIndent or NoRightWrap, on a
+// source window: the indents of every line and the right margin.
+void ApplyWrapSettings(TextControl& box, EditorFlags& flags, const Settings& settings);
+
 // The six stops, the indent and the hanging indent of a disassembly window.
 void ApplyDisassemblyParagraphs(TextControl& box);
 
