@@ -8,6 +8,7 @@
 #include <QTextLayout>
 #include <QUrl>
 #include <algorithm>
+#include <functional>
 
 #include "gui/bookmark_picture.h"
 #include "gui/qt_text.h"
@@ -35,12 +36,12 @@ QtTextControl::~QtTextControl() = default;
 void QtTextControl::SetText(std::string_view text) {
     Operation operation(*this);
     caretFormat_.reset();
-    QString lines = fromCp1252(normaliseLineEnds(text));
-    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    const QTextCharFormat format = defaultFormat();
+    const std::string lines = normaliseLineEnds(text);
+    QString qtLines = fromCp1252(lines);
+    qtLines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     QTextCursor cursor(document_);
     cursor.select(QTextCursor::Document);
-    cursor.insertText(lines, format);
+    editOwnText(0, TextLength(), lines, [&] { cursor.insertText(qtLines, defaultFormat()); });
     selectQt(0, 0);
 }
 
@@ -75,12 +76,14 @@ std::string QtTextControl::SelText() const {
 
 void QtTextControl::SetSelText(std::string_view text) {
     Operation operation(*this);
-    QString lines = fromCp1252(normaliseLineEnds(text));
-    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    const std::string lines = normaliseLineEnds(text);
+    QString qtLines = fromCp1252(lines);
+    qtLines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     const QTextCharFormat format = insertionFormat();
     caretFormat_.reset();
     QTextCursor cursor = edit_->textCursor();
-    cursor.insertText(lines, format);
+    const std::int32_t start = SelStart();
+    editOwnText(start, start + SelLength(), lines, [&] { cursor.insertText(qtLines, format); });
     edit_->setTextCursor(cursor);
 }
 
@@ -133,7 +136,9 @@ void QtTextControl::InsertPicture() {
     if (document_->resource(QTextDocument::ImageResource, QUrl(kPictureName)).isNull())
         document_->addResource(QTextDocument::ImageResource, QUrl(kPictureName), picture_);
     QTextCursor cursor = edit_->textCursor();
-    cursor.insertImage(image);
+    const std::int32_t start = SelStart();
+    editOwnText(start, start + SelLength(), std::string(1, kPictureCharacter),
+                [&] { cursor.insertImage(image); });
     edit_->setTextCursor(cursor);
 }
 
@@ -153,7 +158,19 @@ std::vector<std::int32_t> QtTextControl::PicturePositions() const {
     return positions;
 }
 
+// Out of sight, all changes go into one edit of the document: the widget
+// lays the text out once at the end instead of after every step.
 void QtTextControl::SetDrawingSuspended(bool suspended) {
+    if (suspended && !bulkEdit_) {
+        bulk_ = QTextCursor(document_);
+        bulk_.beginEditBlock();
+        bulkEdit_ = true;
+    } else if (!suspended && bulkEdit_) {
+        bulkEdit_ = false;
+        ownEdit_ = true;
+        bulk_.endEditBlock();
+        ownEdit_ = false;
+    }
     drawingSuspended_ = suspended;
     edit_->setUpdatesEnabled(!suspended);
 }
@@ -170,43 +187,64 @@ std::int32_t QtTextControl::textPosition(int qtPosition) const {
 }
 
 void QtTextControl::onContentsChange(int position, int removed, int added) {
-    const int blockNumber = std::max(document_->findBlock(position).blockNumber(), 0);
-    if (linePrefix_.size() > static_cast<std::size_t>(blockNumber) + 1)
-        linePrefix_.resize(static_cast<std::size_t>(blockNumber) + 1);
-
-    // The widget counts the final paragraph separator, which the text lacks.
-    const int length = std::max(document_->characterCount() - 1, 0);
+    forgetLinesFrom(position);
+    if (ownEdit_ || bulkEdit_) return;  // the mirror knows already
+    // A change by the user: the mirror takes it over.
+    const int length = textLengthInWidget();
     const int from = std::min(position, length);
     const int to = std::min(position + added, length);
-    const auto start = std::min(static_cast<std::size_t>(textPosition(from)),
-                                static_cast<std::size_t>(mirror_.size()));
+    const auto start = std::min(static_cast<std::size_t>(textPosition(from)), mirror_.size());
     std::size_t end = start;
-    std::size_t removedBreaks = 0;
-    for (int count = 0; count < removed && end < mirror_.size(); ++count) {
-        if (mirror_[end] == '\r' && end + 1 < mirror_.size() && mirror_[end + 1] == '\n') {
-            end += 2;
-            ++removedBreaks;
-        } else {
-            ++end;
-        }
-    }
+    for (int count = 0; count < removed && end < mirror_.size(); ++count)
+        end += mirror_[end] == '\r' && end + 1 < mirror_.size() && mirror_[end + 1] == '\n' ? 2 : 1;
     QTextCursor stretch(document_);
     stretch.setPosition(from);
     stretch.setPosition(to, QTextCursor::KeepAnchor);
-    const std::string inserted = logicText(stretch.selectedText(), from);
-    if (mirror_.compare(start, end - start, inserted) != 0) {
-        mirror_.replace(start, end - start, inserted);
-        lineBreaks_ = lineBreaks_ - removedBreaks +
-                      static_cast<std::size_t>(std::count(inserted.begin(), inserted.end(), '\n'));
-        lineStartsStale_ = true;
-        pendingChange_ = true;
-    }
-    // Should the widget ever report a change other than it made it, the
-    // mirror is read afresh.
-    if (mirror_.size() - lineBreaks_ != static_cast<std::size_t>(length)) {
-        rebuildMirror();
-        pendingChange_ = true;
-    }
+    spliceMirror(start, end, logicText(stretch.selectedText(), from));
+    checkMirror();
+}
+
+// The widget counts the final paragraph separator, which the text lacks.
+int QtTextControl::textLengthInWidget() const {
+    return std::max(document_->characterCount() - 1, 0);
+}
+
+// Should the widget ever change other than it reported, the mirror is read
+// afresh.
+void QtTextControl::checkMirror() {
+    if (mirror_.size() - lineBreaks_ == static_cast<std::size_t>(textLengthInWidget())) return;
+    rebuildMirror();
+    pendingChange_ = true;
+}
+
+void QtTextControl::editOwnText(std::int32_t start, std::int32_t end, const std::string& text,
+                                const std::function<void()>& edit) {
+    forgetLinesFrom(qtPosition(start));
+    ownEdit_ = true;
+    edit();
+    ownEdit_ = false;
+    spliceMirror(static_cast<std::size_t>(start), static_cast<std::size_t>(end), text);
+    checkMirror();
+}
+
+void QtTextControl::spliceMirror(std::size_t start, std::size_t end, const std::string& text) {
+    if (mirror_.compare(start, end - start, text) == 0) return;
+    const auto breaksIn = [](auto from, auto to) {
+        return static_cast<std::size_t>(std::count(from, to, '\n'));
+    };
+    lineBreaks_ = lineBreaks_ -
+                  breaksIn(mirror_.begin() + static_cast<std::ptrdiff_t>(start),
+                           mirror_.begin() + static_cast<std::ptrdiff_t>(end)) +
+                  breaksIn(text.begin(), text.end());
+    mirror_.replace(start, end - start, text);
+    lineStartsStale_ = true;
+    pendingChange_ = true;
+}
+
+void QtTextControl::forgetLinesFrom(int qtPosition) {
+    const auto block =
+        static_cast<std::size_t>(std::max(document_->findBlock(qtPosition).blockNumber(), 0));
+    if (linePrefix_.size() > block + 1) linePrefix_.resize(block + 1);
 }
 
 void QtTextControl::onCursorMoved() {

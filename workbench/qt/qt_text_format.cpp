@@ -186,6 +186,9 @@ void QtTextControl::changeBlocks(Change change) {
     Operation operation(*this);
     const QTextCursor selection = edit_->textCursor();
     const QTextBlock last = document_->findBlock(selection.selectionEnd());
+    // One edit for all the lines, laid out once.
+    QTextCursor edit(document_);
+    edit.beginEditBlock();
     for (QTextBlock block = document_->findBlock(selection.selectionStart()); block.isValid();
          block = block.next()) {
         QTextBlockFormat format = block.blockFormat();
@@ -193,6 +196,7 @@ void QtTextControl::changeBlocks(Change change) {
         QTextCursor(block).setBlockFormat(format);
         if (block == last) break;
     }
+    edit.endEditBlock();
 }
 
 int QtTextControl::SelTabCount() const {

@@ -325,6 +325,36 @@ TYPED_TEST(TextControlTest, ReportsAMovedSelectionThenTheChangeOfText) {
     box.SetListener(nullptr);
 }
 
+TYPED_TEST(TextControlTest, WorksAlikeOutOfSight) {
+    TextControl& box = this->box;
+    box.SetText("NOP\r\nRET");
+    EventLog log;
+    box.SetListener(&log);
+    box.SetDrawingSuspended(true);
+    EXPECT_TRUE(box.DrawingSuspended());
+    box.SetSelStart(5);
+    box.SetSelText(";\r\nMOV A\r\n");
+    box.InsertPicture();
+    EXPECT_EQ(box.Text(), "NOP\r\n;\r\nMOV A\r\n RET");
+    EXPECT_EQ(box.SelStart(), 16);
+    EXPECT_EQ(box.GetLineFromChar(16), 3);
+    box.Select(8, 5);
+    EXPECT_EQ(box.SelText(), "MOV A");
+    box.SetSelColor(kGreen);
+    box.Select(5, 1);
+    box.SetSelText("");
+    EXPECT_EQ(log.events, (std::vector<std::string>{"SelChange", "SelChange", "Change", "SelChange",
+                                                    "Change", "SelChange", "SelChange", "SelChange",
+                                                    "SelChange", "SelChange", "Change"}));
+    box.SetDrawingSuspended(false);
+    EXPECT_EQ(box.Text(), "NOP\r\n\r\nMOV A\r\n RET");
+    EXPECT_EQ(box.PicturePositions(), (std::vector<std::int32_t>{14}));
+    box.Select(7, 1);
+    EXPECT_EQ(box.SelColor(), kGreen);
+    EXPECT_EQ(box.GetLineFromChar(15), 3);
+    box.SetListener(nullptr);
+}
+
 // A listener that edits the text from inside the event, as the editor does.
 struct Recolourer : TextControlListener {
     explicit Recolourer(TextControl& box) : box(box) {}

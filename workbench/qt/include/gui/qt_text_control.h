@@ -12,13 +12,14 @@
 #include <QImage>
 #include <QObject>
 #include <QTextCharFormat>
+#include <QTextCursor>
+#include <functional>
 #include <optional>
 #include <vector>
 
 #include "workbench/text_control.h"
 
 class QTextBlock;
-class QTextCursor;
 class QTextDocument;
 class QTextEdit;
 
@@ -92,6 +93,14 @@ class QtTextControl : public QObject, public TextControl {
     void finishOperation();
     void notifySelectionIfMoved();
 
+    // A change of the text made here: the widget's edit, and the mirror
+    // told at once what it was.
+    void editOwnText(std::int32_t start, std::int32_t end, const std::string& text,
+                     const std::function<void()>& edit);
+    void spliceMirror(std::size_t start, std::size_t end, const std::string& text);
+    void forgetLinesFrom(int qtPosition);
+    int textLengthInWidget() const;
+    void checkMirror();
     void rebuildMirror();
     std::string logicText(const QString& raw, int from) const;
     bool isPicture(int qtPosition) const;
@@ -125,6 +134,9 @@ class QtTextControl : public QObject, public TextControl {
     TextFont font_;
     int operationDepth_ = 0;
     bool pendingChange_ = false;
+    bool ownEdit_ = false;  // the document reports a change made here
+    QTextCursor bulk_;      // holds the one edit while drawing is suspended
+    bool bulkEdit_ = false;
     std::int32_t notifiedStart_ = 0;
     std::int32_t notifiedLength_ = 0;
     std::int32_t rightMargin_ = 0;
