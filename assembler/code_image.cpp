@@ -9,10 +9,21 @@ bool readCodeEntry(const std::string& entry, CodeEntry& out) {
     out.bytes.clear();
     if (entry.empty()) return false;
     const std::string_view text(entry);
-    out.address = static_cast<std::int32_t>(parseHexPrefix(text.substr(0, 4)));
+    // The value of the hexadecimal digits at the start of `digits`, up to the first other
+    // character.
+    const auto hexPrefix = [](std::string_view digits) {
+        std::int32_t value = 0;
+        for (char c : digits) {
+            const int digit = hexDigitValue(c);
+            if (digit < 0) break;
+            value = value << 4 | digit;
+        }
+        return value;
+    };
+    out.address = hexPrefix(text.substr(0, 4));
     // Bytes stand at characters 6, 9, 12 ... (counted from 1), two digits each.
     for (std::size_t at = 5; at < text.size(); at += 3) {
-        out.bytes.push_back(static_cast<std::uint8_t>(parseHexPrefix(text.substr(at, 2))));
+        out.bytes.push_back(static_cast<std::uint8_t>(hexPrefix(text.substr(at, 2))));
     }
     return true;
 }

@@ -25,9 +25,8 @@ std::size_t findUpperCase(const std::string& text, std::string_view pattern) {
 
 }  // namespace
 
-std::optional<CompileSource> decideCompileSource(const std::string& caption,
-                                                 const std::string& text, Host& host,
-                                                 NothingToCompile* why) {
+std::optional<CompileSource> decideCompileSource(const std::string& caption, std::string text,
+                                                 Host& host, NothingToCompile* why) {
     const auto nothing = [why](NothingToCompile reason) {
         if (why != nullptr) *why = reason;
         return std::nullopt;
@@ -36,7 +35,7 @@ std::optional<CompileSource> decideCompileSource(const std::string& caption,
     if (text.empty()) return nothing(NothingToCompile::EmptyText);
     // Only the first occurrence counts, in a comment as well.
     const std::size_t found = findUpperCase(text, "#PART OF ");
-    if (found == std::string::npos) return CompileSource{caption, text};
+    if (found == std::string::npos) return CompileSource{caption, std::move(text)};
 
     const std::size_t start = found + 9;
     const std::size_t lineEnd = text.find("\r\n", start);

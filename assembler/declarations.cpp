@@ -45,7 +45,7 @@ bool anyRowHolds(const TextTable<N>& table, int from, std::int64_t address, bool
 void Assembler::setRowMarker(const std::string& marker) {
     // A directive behind another statement of its line has no row of its own.
     if (state_.currentRow < static_cast<std::int32_t>(state_.sourceTable.size())) {
-        state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].marker = marker;
+        state_.setMarker(state_.currentRow, marker);
     }
 }
 

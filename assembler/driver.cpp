@@ -60,6 +60,9 @@ void Assembler::resetRun() {
     state_.lineCounters.assign(2, Int16(0));
     state_.instructionBytes = {};
     state_.sourceTable.assign(1, SourceRow{});
+    state_.markers.clear();
+    state_.rowTexts.clear();
+    state_.markerTexts.clear();
     state_.constantTable.reset();
     state_.byteTable.reset();
     state_.wordTable.reset();
@@ -85,6 +88,8 @@ void Assembler::resetRun() {
             .first->second;
     state_.sourceTable.reserve(main.lineEstimate());
     state_.codeText.reserve(main.lineEstimate());
+    // Each line is kept twice: as read, and as the statement it becomes.
+    state_.rowTexts.reserve(2 * main.size());
 }
 
 void Assembler::letEventsRun() {
@@ -118,7 +123,8 @@ bool Assembler::firstPass() {
         std::string line = file(state_.currentFile).readLine();
         state_.errorNumber = Finding::None;
         growRowsTo(state_.currentRow);
-        state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].sourceText = line;
+        state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].sourceText =
+            state_.keepText(line);
         prepareLine(line);
         if (!file(state_.currentFile).atEnd()) continue;
 
@@ -145,7 +151,7 @@ bool Assembler::secondPassOver() {
         if (!state_.sourceTable[static_cast<std::size_t>(row)].retry) continue;
         state_.codeAddress = static_cast<std::int32_t>(
             parseHexPrefix(state_.codeText[static_cast<std::size_t>(row)].substr(0, 4)));
-        std::string statement = state_.sourceTable[static_cast<std::size_t>(row)].statement;
+        std::string statement(state_.statementOf(static_cast<std::size_t>(row)));
         // The rows behind keep their addresses, so a new length is noted for a warning.
         const int firstLength = codeTextLength(state_.codeText[static_cast<std::size_t>(row)]);
         processStatement(statement);
@@ -231,12 +237,18 @@ std::string Assembler::positionText() const {
     return std::string(buffer, end);
 }
 
+void Assembler::placeRow(SourceRow& row) const {
+    const int file = state_.currentFile;
+    row.file = static_cast<std::int16_t>(file);
+    row.line = state_.lineCounters.at(static_cast<std::size_t>(file)).value();
+}
+
 void Assembler::recordError() {
     growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
     const int number = findingNumber(state_.errorNumber);
     if (findingKind(number) == FindingKind::Retried) row.retry = true;
-    row.marker = catalogueMarker(number);
+    state_.setMarker(state_.currentRow, catalogueMarker(number));
     state_.errorNumber = Finding::None;
 }
 

@@ -2,6 +2,7 @@
 // order of the chain is part of the behaviour; every statement that reaches
 // its end gets the listing tail, error or not, so it keeps its place.
 
+#include <algorithm>
 #include <unordered_map>
 
 #include "assembler/assembler.h"
@@ -56,11 +57,15 @@ void Assembler::encodeInstruction() {
     growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
     row.retry = false;
-    row.marker.clear();
+    state_.clearMarker(state_.currentRow);
 
     auto& t = state_.tokens;
-    t[0] = upperCase(t[0]);
-    for (std::size_t i = 1; i < t.size(); ++i) t[i] = upperCase(removeAll(t[i], ' '));
+    upperCaseInPlace(t[0]);
+    for (std::size_t i = 1; i < t.size(); ++i) {
+        std::string& token = t[i];
+        token.erase(std::remove(token.begin(), token.end(), ' '), token.end());
+        upperCaseInPlace(token);
+    }
     state_.instructionBytes = {};
     state_.instructionLength = 1;
 
@@ -155,16 +160,24 @@ void Assembler::writeListingTail() {
     if (state_.errorNumber != Finding::None) recordError();
     const int length = state_.instructionLength;
     growRowsTo(state_.currentRow);
-    std::string& text = state_.codeText[static_cast<std::size_t>(state_.currentRow)];
-    text.clear();
-    appendHex2(text, state_.codeAddress >> 8);
-    appendHex2(text, state_.codeAddress);
-    text += '\t';
-    for (int i = 0; i < length; ++i) {
-        appendHex2(text, state_.instructionBytes[static_cast<std::size_t>(i)]);
-        text += '\t';
+    // "AAAA\tBB\tBB\tBB\t": at most 14 characters, so the text stays in the string itself.
+    constexpr char kDigits[] = "0123456789ABCDEF";
+    char buffer[24];
+    std::size_t at = 0;
+    const auto hex2 = [&](std::int64_t value) {
+        buffer[at++] = kDigits[(value >> 4) & 0xF];
+        buffer[at++] = kDigits[value & 0xF];
+    };
+    hex2(state_.codeAddress >> 8);
+    hex2(state_.codeAddress);
+    buffer[at++] = '\t';
+    const int shown = std::clamp(static_cast<int>(length), 0, 3);
+    for (int i = 0; i < shown; ++i) {
+        hex2(state_.instructionBytes[static_cast<std::size_t>(i)]);
+        buffer[at++] = '\t';
     }
-    text.append(static_cast<std::size_t>(std::max(0, 3 - length)), '\t');
+    for (int i = shown; i < 3; ++i) buffer[at++] = '\t';
+    state_.codeText[static_cast<std::size_t>(state_.currentRow)].assign(buffer, at);
     state_.codeAddress = checkedAdd(state_.codeAddress, length);
 }
 
@@ -250,7 +263,8 @@ void Assembler::encodeImplicitCall() {
         // The second pass then sees an ordinary call statement.
         row.retry = true;
         state_.errorNumber = Finding::InstructionNotRecognised;
-        row.statement = (state_.useLongCall ? "LCALL " : "ACALL ") + row.statement;
+        row.statement = state_.keepText((state_.useLongCall ? "LCALL " : "ACALL ") +
+                                        std::string(state_.textOf(row.statement)));
     }
 }
 

@@ -26,8 +26,7 @@ void Assembler::defineLabel(std::string& text, const std::string& position) {
         state_.codeAddress = state_.numberResult;
     } else if (row >= 0) {
         growRowsTo(state_.currentRow);
-        state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].marker =
-            findingMarker(Finding::LabelDefinedTwice);
+        state_.setMarker(state_.currentRow, findingMarker(Finding::LabelDefinedTwice));
         ++state_.currentRow;
         return;
     } else {

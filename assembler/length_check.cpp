@@ -48,7 +48,7 @@ std::vector<std::string> lengthChangeWarnings(const RunState& state) {
     for (const LengthChange& change : state.lengthChanges) {
         const auto row = static_cast<std::size_t>(change.row);
         if (row >= places.size()) continue;
-        warnings.push_back(warningLine(places[row], state.sourceTable[row].statement, change));
+        warnings.push_back(warningLine(places[row], std::string(state.statementOf(row)), change));
     }
     return warnings;
 }

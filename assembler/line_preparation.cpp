@@ -12,8 +12,7 @@ void Assembler::prepareLine(std::string& line) {
     counter += 1;
     cleanText(line);
     growRowsTo(state_.currentRow);
-    const std::string position = positionText();
-    state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].position = position;
+    placeRow(state_.sourceTable[static_cast<std::size_t>(state_.currentRow)]);
 
     if (line.empty() || line.front() == ';') {
         setCodeText(std::string(kFourTabs));
@@ -28,13 +27,14 @@ void Assembler::prepareLine(std::string& line) {
     }
     const std::size_t firstColon = line.find(':');
     if (firstColon != std::string::npos && firstColon + 1 == line.size()) {
-        defineLabel(line, position);
+        defineLabel(line, positionText());
         return;
     }
     expandAllMacros(line);
 
     // Statement boundaries: colons outside quotes and braces.
-    std::vector<std::size_t> colons;
+    std::vector<std::size_t>& colons = statementEnds_;
+    colons.clear();
     if (line.find(':') != std::string::npos) {
         if (line.size() > 32767) raise(FailureNumber::Overflow);  // the walk counts in 16 bits
         bool inQuote = false;
@@ -66,21 +66,27 @@ void Assembler::prepareLine(std::string& line) {
 void Assembler::processStatement(std::string& text) {
     if (!state_.secondPass) growRowsTo(state_.currentRow);
     SourceRow& row = state_.sourceTable[static_cast<std::size_t>(state_.currentRow)];
-    row.statement = text;
+    row.statement = state_.keepText(text);
 
     for (char& c : text) {
         if (c == '\t') c = ' ';
     }
-    text = trimBlanks(text);
-    if (text.empty()) return;
+    const std::size_t last = text.find_last_not_of(' ');
+    if (last == std::string::npos) {
+        text.clear();
+        return;
+    }
+    text.erase(last + 1);
+    text.erase(0, text.find_first_not_of(' '));
 
     // Tables keep their quoted texts; the test looks at the two letters only.
-    const std::string head = upperCase(text.substr(0, 2));
-    if (head != "DB" && head != "DW") foldCharacterLiterals(text);
+    const bool table = text.size() >= 2 && upperChar(text[0]) == 'D' &&
+                       (upperChar(text[1]) == 'B' || upperChar(text[1]) == 'W');
+    if (!table) foldCharacterLiterals(text);
     state_.statementCopy = text;
     splitTokens(text);
 
-    if (!state_.secondPass) row.position = positionText();
+    if (!state_.secondPass) placeRow(row);
     if (state_.errorNumber == Finding::None) {
         encodeInstruction();
     } else {
@@ -114,7 +120,7 @@ void Assembler::foldCharacterLiterals(std::string& text) {
 
 void Assembler::splitTokens(const std::string& text) {
     auto& tokens = state_.tokens;
-    tokens = {};
+    for (std::string& token : tokens) token.clear();
     const std::size_t blank = text.find(' ');
     const std::size_t comma = text.find(',');
     const std::size_t secondComma =
@@ -127,16 +133,16 @@ void Assembler::splitTokens(const std::string& text) {
         tokens[0] = text;
         return;
     }
-    tokens[0] = text.substr(0, blank);
+    tokens[0].assign(text, 0, blank);
     if (comma == std::string::npos) {
-        tokens[1] = text.substr(blank + 1);
+        tokens[1].assign(text, blank + 1);
     } else if (secondComma == std::string::npos) {
-        tokens[1] = text.substr(blank + 1, comma - blank - 1);
-        tokens[2] = text.substr(comma + 1);
+        tokens[1].assign(text, blank + 1, comma - blank - 1);
+        tokens[2].assign(text, comma + 1);
     } else {
-        tokens[1] = text.substr(blank + 1, comma - blank - 1);
-        tokens[2] = text.substr(comma + 1, secondComma - comma - 1);
-        tokens[3] = text.substr(secondComma + 1);
+        tokens[1].assign(text, blank + 1, comma - blank - 1);
+        tokens[2].assign(text, comma + 1, secondComma - comma - 1);
+        tokens[3].assign(text, secondComma + 1);
     }
 }
 

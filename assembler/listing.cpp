@@ -34,9 +34,14 @@ std::string Assembler::listingText() const {
                        germanDate(settings_.today ? *settings_.today : todaysDate()) + lineEnd;
     for (std::size_t i = 0; i < state_.sourceTable.size(); ++i) {
         const SourceRow& row = state_.sourceTable[i];
-        text += (i < state_.codeText.size() ? state_.codeText[i] : std::string()) + row.position +
-                "\t" + row.sourceText;
-        if (!row.marker.empty()) text += "\t" + row.marker;
+        if (i < state_.codeText.size()) text += state_.codeText[i];
+        text += row.position();
+        text += '\t';
+        text += state_.textOf(row.sourceText);
+        if (const std::string_view marker = state_.markerOf(i); !marker.empty()) {
+            text += '\t';
+            text += marker;
+        }
         text += lineEnd;
     }
     text += lineEnd + state_.reportText + lineEnd;

@@ -40,10 +40,17 @@ void clashLines(const TextTable<N>& first, const TextTable<M>& second, const std
 void Assembler::buildReport(std::int32_t endOfCode) {
     auto& state = state_;
     std::string warnings;
-    for (SourceRow& row : state.sourceTable) {
-        if (trimBlanks(row.marker).empty()) continue;
-        if (row.sourceText.empty()) row.sourceText = row.statement;
-        warnings += "Zeile " + row.position + " " + row.sourceText + " " + row.marker + kLineEnd;
+    for (const RowMarker& entry : state.markers) {
+        const auto index = entry.row;
+        const std::string marker(state.markerText(entry));
+        if (trimBlanks(marker).empty()) continue;
+        if (static_cast<std::size_t>(index) >= state.sourceTable.size()) continue;
+        SourceRow& row = state.sourceTable[static_cast<std::size_t>(index)];
+        // The listing written after the report shows the statement there too.
+        if (row.sourceText.length == 0) row.sourceText = row.statement;
+        warnings += "Zeile " + row.position() + " ";
+        warnings += state.textOf(row.sourceText);
+        warnings += " " + marker + kLineEnd;
     }
     if (state.openIfCount != 0) {
         warnings += std::to_string(state.openIfCount.value()) + " offene If-Schleife(n)" + kLineEnd;

@@ -14,15 +14,6 @@ struct Position {
     std::string line;
 };
 
-// "2:17" into file 2 and line "17"; an empty or broken position gives file 0.
-Position readPosition(const std::string& text) {
-    const std::size_t colon = text.find(':');
-    if (colon == std::string::npos) return {};
-    const std::int64_t file = parseDecimal(text.substr(0, colon), 0);
-    if (file < 1 || file > 32767) return {};
-    return {static_cast<int>(file), text.substr(colon + 1)};
-}
-
 std::string fileNamePart(const std::string& path) {
     const std::size_t slash = path.find_last_of("/\\");
     return slash == std::string::npos ? path : path.substr(slash + 1);
@@ -60,12 +51,12 @@ std::vector<std::string> includeNamesOf(std::string line) {
 
 // The raw line that holds row `row`: the nearest row at or above it that
 // stores one (only the first row of a line does).
-const std::string& rawLineOf(const RunState& state, std::size_t row) {
-    static const std::string kNone;
+std::string rawLineOf(const RunState& state, std::size_t row) {
     for (std::size_t i = row + 1; i-- > 0;) {
-        if (!state.sourceTable[i].sourceText.empty()) return state.sourceTable[i].sourceText;
+        if (const std::string_view line = state.sourceTextOf(i); !line.empty())
+            return std::string(line);
     }
-    return kNone;
+    return {};
 }
 
 }  // namespace
@@ -78,7 +69,9 @@ std::vector<SourcePlace> sourcePlaces(const RunState& state) {
     int previousFile = 1;
     Position last{1, "0"};
     for (std::size_t row = 0; row < state.sourceTable.size(); ++row) {
-        const Position read = readPosition(state.sourceTable[row].position);
+        const SourceRow& source = state.sourceTable[row];
+        const Position read =
+            source.file < 1 ? Position{} : Position{source.file, std::to_string(source.line)};
         const Position position = read.file == 0 ? last : read;
         last = position;
         if (names.size() <= static_cast<std::size_t>(position.file)) {

@@ -32,8 +32,7 @@ void Assembler::growForNewRow() {
 
 void Assembler::markOutOfRange(std::int32_t line) {
     growRowsTo(line);
-    state_.sourceTable[static_cast<std::size_t>(line)].marker =
-        findingMarker(Finding::ExitOutOfRange);
+    state_.setMarker(line, findingMarker(Finding::ExitOutOfRange));
 }
 
 void Assembler::patchLastByte(std::int32_t line, std::int32_t length, std::int32_t distance) {
@@ -354,8 +353,7 @@ bool Assembler::compileFor() {
     std::int32_t counter = 0;
     classifyOperand(t[1], cls, counter);
     if (cls != ClassRegister && cls != ClassDirect) {
-        state_.sourceTable[static_cast<std::size_t>(state_.currentRow)].marker +=
-            findingMarker(Finding::ExitConditionInvalid);
+        state_.appendMarker(state_.currentRow, findingMarker(Finding::ExitConditionInvalid));
         return false;
     }
     if (counter > 255) {

@@ -59,16 +59,16 @@ void Assembler::compileTableItem(const std::string& item, bool& sawQuote, bool w
     evaluateExpression(expression, value, found);
     if (!found) {
         // The row keeps its length and is read again with the final tables.
-        row.marker += tableItemMarker(item);
+        state_.appendMarker(state_.currentRow, tableItemMarker(item));
         row.retry = true;
         value = 0;
     }
     if (words) {
-        if (value > 0xFFFF) row.marker += "; " + item + " > FFFFh";
+        if (value > 0xFFFF) state_.appendMarker(state_.currentRow, "; " + item + " > FFFFh");
         code += hexDigits(value % 256, 2) + " " + hexDigits(value / 256, 2) + " ";
         state_.codeAddress = checkedAdd(state_.codeAddress, 2);
     } else {
-        if (value > 255) row.marker += "; Fehler: " + item + " > FFh";
+        if (value > 255) state_.appendMarker(state_.currentRow, "; Fehler: " + item + " > FFh");
         code += hexDigits(value, 2) + " ";
         state_.codeAddress = checkedAdd(state_.codeAddress, 1);
     }

@@ -94,28 +94,41 @@ std::string fromUtf8(std::string_view utf8) {
     return out;
 }
 
-char upperChar(char c) {
-    const auto byte = static_cast<unsigned char>(c);
+namespace {
+
+constexpr char upperOf(unsigned char byte) {
     if (byte >= 'a' && byte <= 'z') return static_cast<char>(byte - 32);
     if (byte >= 0xE0 && byte <= 0xFE && byte != 0xF7) return static_cast<char>(byte - 32);
-    switch (byte) {
-        case 0x9A: return static_cast<char>(0x8A);  // š
-        case 0x9C: return static_cast<char>(0x8C);  // œ
-        case 0x9E: return static_cast<char>(0x8E);  // ž
-        case 0xFF: return static_cast<char>(0x9F);  // ÿ
-        default: return c;
+    switch (byte) {  // š œ ž ÿ to Š Œ Ž Ÿ
+        case 0x9A: return static_cast<char>(0x8A);
+        case 0x9C: return static_cast<char>(0x8C);
+        case 0x9E: return static_cast<char>(0x8E);
+        case 0xFF: return static_cast<char>(0x9F);
+        default: return static_cast<char>(byte);
     }
 }
 
+// Built by the compiler: the assembler upper-cases every token of every line.
+constexpr std::array<char, 256> kUpper = [] {
+    std::array<char, 256> table{};
+    for (int i = 0; i < 256; ++i)
+        table[static_cast<std::size_t>(i)] = upperOf(static_cast<unsigned char>(i));
+    return table;
+}();
+
+}  // namespace
+
+char upperChar(char c) {
+    return kUpper[static_cast<unsigned char>(c)];
+}
+
+void upperCaseInPlace(std::string& text) {
+    for (char& c : text) c = kUpper[static_cast<unsigned char>(c)];
+}
+
 std::string upperCase(std::string_view text) {
-    static const auto kUpper = [] {
-        std::array<char, 256> table{};
-        for (int i = 0; i < 256; ++i)
-            table[static_cast<std::size_t>(i)] = upperChar(static_cast<char>(i));
-        return table;
-    }();
     std::string out(text);
-    for (char& c : out) c = kUpper[static_cast<unsigned char>(c)];
+    upperCaseInPlace(out);
     return out;
 }
 

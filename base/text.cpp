@@ -114,13 +114,6 @@ std::int64_t parseDecimal(std::string_view text, std::int64_t fallback) {
     return value;
 }
 
-int hexDigitValue(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    return -1;
-}
-
 std::int64_t parseHexPrefix(std::string_view text) {
     std::int64_t value = 0;
     for (char c : text) {

@@ -12,13 +12,16 @@ namespace korvex {
 
 std::vector<FindingPlace> findingsOf(const RunState& state) {
     std::vector<FindingPlace> findings;
-    const bool anyMarker = std::any_of(state.sourceTable.begin(), state.sourceTable.end(),
-                                       [](const SourceRow& row) { return !row.marker.empty(); });
+    const bool anyMarker =
+        std::any_of(state.markers.begin(), state.markers.end(),
+                    [](const RowMarker& entry) { return entry.text.length > 0; });
     if (!anyMarker) return findings;
     const std::vector<SourcePlace> places = sourcePlaces(state);
     constexpr std::string_view kMark = ";>err";
-    for (std::size_t row = 0; row < state.sourceTable.size() && row < places.size(); ++row) {
-        const std::string& marker = state.sourceTable[row].marker;
+    for (const RowMarker& entry : state.markers) {
+        const std::string marker(state.markerText(entry));
+        const auto row = static_cast<std::size_t>(entry.row);
+        if (row >= state.sourceTable.size() || row >= places.size()) continue;
         if (!startsWith(marker, kMark)) continue;
         std::size_t at = kMark.size();
         int number = 0;
@@ -35,10 +38,10 @@ std::vector<FindingPlace> findingsOf(const RunState& state) {
 }
 
 CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& settings,
-                            const CompileRequest& request) {
+                            CompileRequest request) {
     CompileResult result;
     NothingToCompile why{};
-    auto source = decideCompileSource(request.caption, request.text, host, &why);
+    auto source = decideCompileSource(request.caption, std::move(request.text), host, &why);
     if (!source) {
         result.why = why;
         return result;

@@ -1,6 +1,7 @@
 #include "workbench/rtf_text.h"
 
-#include <array>
+#include <algorithm>
+#include <cctype>
 #include <cstdint>
 #include <vector>
 
@@ -11,182 +12,157 @@ namespace korvex {
 namespace {
 
 bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+    return std::isalpha(static_cast<unsigned char>(c)) != 0;
+}
+bool isDigit(char c) {
+    return std::isdigit(static_cast<unsigned char>(c)) != 0;
 }
 
-// Groups whose text is not part of the document's text.
-bool isSkippedDestination(std::string_view word) {
-    static constexpr std::array<std::string_view, 17> kSkipped{
-        "fonttbl", "colortbl",  "stylesheet", "info",         "pict",      "object",
-        "header",  "footer",    "fldinst",    "themedata",    "listtable", "listoverridetable",
-        "rsidtbl", "generator", "datastore",  "latentstyles", "xmlnstbl",
-    };
-    for (std::string_view skipped : kSkipped)
-        if (word == skipped) return true;
+// Groups whose content is not text.
+bool isHiddenDestination(std::string_view word) {
+    for (std::string_view hidden : {"fonttbl", "colortbl", "stylesheet", "info", "pict", "object",
+                                    "header", "footer", "listtable", "listoverridetable"}) {
+        if (word == hidden) return true;
+    }
     return false;
 }
 
-// The character a control word stands for, 0 if none.
-char characterOfWord(std::string_view word) {
-    if (word == "tab") return '\t';
-    if (word == "emdash") return '\x97';
-    if (word == "endash") return '\x96';
-    if (word == "lquote") return '\x91';
-    if (word == "rquote") return '\x92';
-    if (word == "ldblquote") return '\x93';
-    if (word == "rdblquote") return '\x94';
-    if (word == "bullet") return '\x95';
-    return 0;
+std::string utf8Of(std::uint32_t code) {
+    std::string bytes;
+    if (code < 0x80) {
+        bytes += static_cast<char>(code);
+    } else if (code < 0x800) {
+        bytes += static_cast<char>(0xC0 | (code >> 6));
+        bytes += static_cast<char>(0x80 | (code & 0x3F));
+    } else {
+        bytes += static_cast<char>(0xE0 | ((code >> 12) & 0x0F));
+        bytes += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
+        bytes += static_cast<char>(0x80 | (code & 0x3F));
+    }
+    return bytes;
 }
 
-std::string utf8Of(std::uint32_t codePoint) {
-    std::string out;
-    if (codePoint < 0x80) {
-        out += static_cast<char>(codePoint);
-    } else if (codePoint < 0x800) {
-        out += static_cast<char>(0xC0 | (codePoint >> 6));
-        out += static_cast<char>(0x80 | (codePoint & 0x3F));
-    } else {
-        out += static_cast<char>(0xE0 | ((codePoint >> 12) & 0x0F));
-        out += static_cast<char>(0x80 | ((codePoint >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (codePoint & 0x3F));
-    }
-    return out;
-}
+struct Group {
+    bool hidden = false;
+    int unicodeSkip = 1;  // characters that stand in for each \u
+};
 
 class RtfReader {
   public:
     explicit RtfReader(std::string_view rtf) : rtf_(rtf) {}
 
-    std::string read() {
+    std::string run() {
         while (at_ < rtf_.size()) {
             const char c = rtf_[at_++];
-            if (c == '{') {
-                skipping_.push_back(skipping());
-            } else if (c == '}') {
-                if (!skipping_.empty()) skipping_.pop_back();
-            } else if (c == '\\') {
-                controlSequence();
-            } else if (c != '\r' && c != '\n') {
-                emit(c);
+            switch (c) {
+                case '{': groups_.push_back(groups_.empty() ? Group{} : groups_.back()); break;
+                case '}':
+                    if (!groups_.empty()) groups_.pop_back();
+                    break;
+                case '\\': controlSequence(); break;
+                case '\r':
+                case '\n': break;
+                default: emit(c);
             }
         }
-        return out_;
+        return std::move(text_);
     }
 
   private:
-    bool skipping() const { return !skipping_.empty() && skipping_.back(); }
+    Group& group() {
+        if (groups_.empty()) groups_.emplace_back();
+        return groups_.back();
+    }
 
     void emit(char c) {
         if (pendingSkip_ > 0) {
             --pendingSkip_;
             return;
         }
-        if (!skipping()) out_ += c;
+        if (!group().hidden) text_ += c;
     }
-    void emitText(std::string_view text) {
-        for (char c : text) emit(c);
-    }
-
-    void skipGroup() {
-        if (!skipping_.empty()) skipping_.back() = true;
+    void emit(std::string_view s) {
+        for (char c : s) emit(c);
     }
 
     void controlSequence() {
         if (at_ >= rtf_.size()) return;
-        const char c = rtf_[at_++];
+        const char c = rtf_[at_];
         if (!isLetter(c)) {
+            ++at_;
             controlSymbol(c);
             return;
         }
-        const std::size_t wordStart = at_ - 1;
+        const std::size_t start = at_;
         while (at_ < rtf_.size() && isLetter(rtf_[at_])) ++at_;
-        const std::string_view word = rtf_.substr(wordStart, at_ - wordStart);
+        const std::string_view word = rtf_.substr(start, at_ - start);
         const std::size_t numberStart = at_;
         if (at_ < rtf_.size() && rtf_[at_] == '-') ++at_;
-        while (at_ < rtf_.size() && rtf_[at_] >= '0' && rtf_[at_] <= '9' && at_ - numberStart < 10)
-            ++at_;
-        const bool hasNumber = at_ > numberStart;
-        const std::int64_t number =
-            hasNumber ? parseDecimal(rtf_.substr(numberStart, at_ - numberStart)) : 0;
+        while (at_ < rtf_.size() && isDigit(rtf_[at_])) ++at_;
+        // Ten digits are plenty; more would only overflow.
+        const std::int64_t parameter =
+            parseDecimal(rtf_.substr(numberStart, std::min<std::size_t>(at_ - numberStart, 10)), 0);
         if (at_ < rtf_.size() && rtf_[at_] == ' ') ++at_;
-        controlWord(word, hasNumber, number);
+        controlWord(word, parameter);
     }
 
     void controlSymbol(char c) {
         switch (c) {
-            case '\\':
-            case '{':
-            case '}': emit(c); break;
+            case '\'': hexCharacter(); break;
+            case '*': group().hidden = true; break;
             case '~': emit('\xA0'); break;
             case '_': emit('-'); break;
-            case '*': skipGroup(); break;
-            case '\'': {
-                const int high = at_ < rtf_.size() ? hexDigitValue(rtf_[at_]) : -1;
-                const int low = at_ + 1 < rtf_.size() ? hexDigitValue(rtf_[at_ + 1]) : -1;
-                if (high < 0 || low < 0) break;
-                at_ += 2;
-                emit(static_cast<char>(high * 16 + low));
-                break;
-            }
             case '\r':
-            case '\n': emitText("\r\n"); break;  // an escaped line end is a paragraph
-            default: break;
+            case '\n': emit(kCrLf); break;
+            case '-': break;
+            default: emit(c);  // \\ \{ \}
         }
     }
 
-    void controlWord(std::string_view word, bool hasNumber, std::int64_t number) {
-        if (isSkippedDestination(word)) {
-            skipGroup();
-        } else if (word == "par" || word == "line") {
-            emitText("\r\n");
-        } else if (word == "uc" && hasNumber) {
-            skipAfterUnicode_ = number < 0 ? 0 : static_cast<int>(number > 8 ? 8 : number);
-        } else if (word == "u" && hasNumber) {
-            const auto codePoint = static_cast<std::uint32_t>(number < 0 ? number + 65536 : number);
-            emitText(fromUtf8(utf8Of(codePoint & 0xFFFF)));
-            pendingSkip_ = skipAfterUnicode_;
-        } else if (const char c = characterOfWord(word); c != 0) {
-            emit(c);
+    void hexCharacter() {
+        int value = 0;
+        for (int i = 0; i < 2; ++i) {
+            const int digit = at_ < rtf_.size() ? hexDigitValue(rtf_[at_]) : -1;
+            if (digit < 0) return;
+            value = value * 16 + digit;
+            ++at_;
+        }
+        emit(static_cast<char>(value));
+    }
+
+    void controlWord(std::string_view word, std::int64_t parameter) {
+        if (word == "par" || word == "line") {
+            emit(kCrLf);
+        } else if (word == "tab") {
+            emit('\t');
+        } else if (word == "uc") {
+            group().unicodeSkip = static_cast<int>(parameter < 0   ? 0
+                                                   : parameter > 8 ? 8
+                                                                   : parameter);
+        } else if (word == "u") {
+            const std::int64_t code = parameter & 0xFFFF;  // negative values count from 65536
+            emit(fromUtf8(utf8Of(static_cast<std::uint32_t>(code))));
+            pendingSkip_ = group().unicodeSkip;
+        } else if (isHiddenDestination(word)) {
+            group().hidden = true;
         }
     }
 
     std::string_view rtf_;
     std::size_t at_ = 0;
-    std::vector<bool> skipping_;
-    std::string out_;
-    int skipAfterUnicode_ = 1;
+    std::vector<Group> groups_;
     int pendingSkip_ = 0;
+    std::string text_;
 };
 
 }  // namespace
 
-std::string plainTextOfRtf(std::string_view rtf) {
-    return RtfReader(rtf).read();
+bool looksLikeRtf(std::string_view firstBytes) {
+    return firstBytes.substr(0, 20).find("{\\rtf1\\ansi") != std::string_view::npos;
 }
 
-std::string rtfOfPlainText(std::string_view text) {
-    std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil;}}\r\n";
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        const auto byte = static_cast<unsigned char>(c);
-        if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
-            rtf += "\\par\r\n";
-            ++i;
-        } else if (c == '\\' || c == '{' || c == '}') {
-            rtf += '\\';
-            rtf += c;
-        } else if (c == '\t') {
-            rtf += "\\tab ";
-        } else if (byte >= 0x80 || byte < 0x20) {
-            rtf += "\\'";
-            appendHex2(rtf, byte);
-        } else {
-            rtf += c;
-        }
-    }
-    rtf += "}\r\n";
-    return rtf;
+std::string plainTextOfRtf(std::string_view rtf) {
+    return RtfReader(rtf).run();
 }
 
 }  // namespace korvex

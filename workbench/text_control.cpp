@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/files.h"
+#include "workbench/rtf_document.h"
 #include "workbench/rtf_text.h"
 #include "workbench/text_scan.h"
 

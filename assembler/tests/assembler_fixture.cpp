@@ -60,8 +60,12 @@ std::string AssemblerFixture::bytesOfRow(int index) const {
     return out;
 }
 
-const SourceRow& AssemblerFixture::row(int index) const {
-    return assembler_->state().sourceTable.at(static_cast<std::size_t>(index + rowOffset_));
+AssemblerFixture::RowColumns AssemblerFixture::row(int index) const {
+    const RunState& state = assembler_->state();
+    const auto at = static_cast<std::size_t>(index + rowOffset_);
+    const SourceRow& row = state.sourceTable.at(at);
+    return {std::string(state.markerOf(at)), row.position(), std::string(state.statementOf(at)),
+            std::string(state.sourceTextOf(at)), row.retry};
 }
 
 const std::string& AssemblerFixture::code(int index) const {
@@ -69,15 +73,20 @@ const std::string& AssemblerFixture::code(int index) const {
 }
 
 int AssemblerFixture::markerNumber(int index) const {
-    const std::string& marker = row(index).marker;
+    const std::string marker = row(index).marker;
     if (!startsWith(marker, ";>err")) return 0;
     return static_cast<int>(parseDecimal(marker.substr(5, marker.find_first_of(": ", 5) - 5)));
 }
 
 std::vector<std::string> AssemblerFixture::markers() const {
     std::vector<std::string> out;
-    for (const auto& r : assembler_->state().sourceTable) {
-        if (!r.marker.empty()) out.push_back(r.position + " " + r.marker);
+    const RunState& state = assembler_->state();
+    for (const RowMarker& entry : state.markers) {
+        const auto index = entry.row;
+        const std::string marker(state.markerText(entry));
+        const auto at = static_cast<std::size_t>(index);
+        if (!marker.empty() && at < state.sourceTable.size())
+            out.push_back(state.sourceTable[at].position() + " " + marker);
     }
     return out;
 }

@@ -48,7 +48,12 @@ class AssemblerFixture : public ::testing::Test {
     std::string image() const;
     // Bytes of the first row that emits code, as hexadecimal text "74 05".
     std::string bytesOfRow(int row) const;
-    const SourceRow& row(int index) const;
+    // A row's columns as the listing shows them.
+    struct RowColumns {
+        std::string marker, position, statement, sourceText;
+        bool retry = false;
+    };
+    RowColumns row(int index) const;
     const std::string& code(int index) const;
     // The marker number of a row (0 when clean).
     int markerNumber(int row) const;

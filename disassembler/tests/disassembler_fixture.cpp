@@ -64,8 +64,13 @@ std::string DisassemblerFixture::assemble(const std::string& source,
     EXPECT_EQ(assembler.assembleSource(name, {}), RunOutcome::Completed) << host.lastBoxText;
     if (findings != nullptr) {
         findings->clear();
-        for (const auto& row : assembler.state().sourceTable) {
-            if (!row.marker.empty()) findings->push_back(row.statement + " " + row.marker);
+        const RunState& state = assembler.state();
+        for (const RowMarker& entry : state.markers) {
+            const auto index = entry.row;
+            const std::string marker(state.markerText(entry));
+            if (!marker.empty() && static_cast<std::size_t>(index) < state.sourceTable.size())
+                findings->push_back(
+                    std::string(state.statementOf(static_cast<std::size_t>(index))) + " " + marker);
         }
     }
     if (hexText != nullptr) *hexText = hexFileText(assembler.state().codeText);

@@ -41,16 +41,20 @@ AssembledProgram assembleProgram(const std::string& program, const std::string& 
     result.completed = assembler.assembleSource(name, {}) == RunOutcome::Completed;
     const RunState& state = assembler.state();
     result.report = state.reportText;
-    for (const auto& row : state.sourceTable) {
-        if (!row.marker.empty()) {
-            result.findings.push_back(row.position + " " + row.marker + " " + row.statement);
+    for (const RowMarker& entry : state.markers) {
+        const auto index = entry.row;
+        const std::string marker(state.markerText(entry));
+        const auto at = static_cast<std::size_t>(index);
+        if (!marker.empty() && at < state.sourceTable.size()) {
+            result.findings.push_back(state.sourceTable[at].position() + " " + marker + " " +
+                                      std::string(state.statementOf(at)));
         }
     }
     result.hexText = hexFileText(state.codeText);
     // The last row whose statement is `stopStatement`, then its first code row.
     std::size_t stopRow = state.sourceTable.size();
     for (std::size_t i = 0; i < state.sourceTable.size(); ++i) {
-        std::string statement = state.sourceTable[i].statement;
+        std::string statement(state.statementOf(i));
         statement = upperCase(statement.substr(0, statement.find(';')));
         cleanText(statement);
         if (statement == stopStatement) stopRow = i;

@@ -2,17 +2,15 @@
 
 #include <QApplication>
 #include <QInputDialog>
-#include <QLabel>
 #include <QMessageBox>
 #include <QResizeEvent>
-#include <QStatusBar>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
 #include "base/cp1252.h"
 #include "base/failure.h"
 #include "base/host.h"
-#include "gui/qt_colours.h"
+#include "gui/colour_map.h"
 #include "gui/qt_text.h"
 #include "gui/qt_text_control.h"
 #include "workbench/document_format.h"
@@ -30,7 +28,7 @@ class EditorWindow::Events : public EditorEvents {
     void SelectionExtentChanged(bool hasSelection) override {
         emit window_.selectionExtentChanged(hasSelection);
     }
-    void ShowCaretLine(std::int32_t line) override { window_.showCaretLine(line); }
+    void ShowCaretLine(std::int32_t) override { emit window_.caretStateChanged(); }
 
   private:
     EditorWindow& window_;
@@ -45,33 +43,18 @@ EditorWindow::EditorWindow(EditorFlags& flags, const Settings& settings, QWidget
     text_->setContextMenuPolicy(Qt::CustomContextMenu);
     text_->viewport()->setMouseTracking(true);
 
-    status_ = new QStatusBar(this);
-    status_->setObjectName(QStringLiteral("StatusBar1"));
-    status_->setSizeGripEnabled(false);
-    lineLabel_ = new QLabel(QStringLiteral("Zeile 1"), status_);
-    lineLabel_->setObjectName(QStringLiteral("StbarZeile"));
-    modeLabel_ = new QLabel(status_);
-    modeLabel_->setObjectName(QStringLiteral("StbarModus"));
-    modeLabel_->setToolTip(QStringLiteral(u"Zeigt den Einfüge/Überschreibmodus an"));
-    status_->addWidget(lineLabel_, 1);
-    status_->addPermanentWidget(modeLabel_);
-
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
     layout->addWidget(text_);
-    layout->addWidget(status_);
 
     box_ = std::make_unique<QtTextControl>(text_);
     events_ = std::make_unique<Events>(*this);
     editor_ = std::make_unique<SourceEditor>(*box_, flags_, settings_, *events_);
     editor_->InitialiseWindow();
     applyBackground();
-    showMode();
 
     text_->installEventFilter(this);
     text_->viewport()->installEventFilter(this);
-    lineLabel_->installEventFilter(this);
     connect(text_, &QTextEdit::customContextMenuRequested, this, [this](const QPoint& at) {
         emit editMenuRequested(text_->viewport()->mapToGlobal(at));
     });
@@ -85,7 +68,6 @@ EditorWindow::~EditorWindow() {
     // The widgets die after the members; they must not reach the logic then.
     text_->removeEventFilter(this);
     text_->viewport()->removeEventFilter(this);
-    lineLabel_->removeEventFilter(this);
     editor_.reset();
     box_.reset();
 }
@@ -210,17 +192,8 @@ void EditorWindow::applyBackground() {
     const std::int32_t colour =
         settings_.Colours[disassembly() ? kDisassemblyBackground : kEditorBackground];
     QPalette palette = text_->palette();
-    palette.setColor(QPalette::Base, qtColour(colour, QApplication::palette()));
+    palette.setColor(QPalette::Base, toQColor(colour, QApplication::palette()));
     text_->setPalette(palette);
-}
-
-void EditorWindow::showCaretLine(int line) {
-    lineLabel_->setText(QStringLiteral("Zeile %1").arg(line));
-    emit caretStateChanged();
-}
-
-void EditorWindow::showMode() {
-    modeLabel_->setText(text_->overwriteMode() ? QStringLiteral(u"ÜB") : QStringLiteral("EINFG"));
 }
 
 // The right margin follows the window's width: 8000 twips beyond it with

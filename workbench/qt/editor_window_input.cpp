@@ -1,7 +1,6 @@
 // The keyboard and the mouse of a source window: the form sees the keys
 // before its text control does.
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QTextEdit>
 
@@ -73,10 +72,6 @@ bool EditorWindow::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     if (watched == text_->viewport()) return mouseEvent(event);
-    if (watched == lineLabel_ && event->type() == QEvent::MouseButtonRelease) {
-        goToLine();
-        return true;
-    }
     return QWidget::eventFilter(watched, event);
 }
 
@@ -137,7 +132,6 @@ bool EditorWindow::keyPress(QKeyEvent* key) {
     }
     if (code == Qt::Key_Insert && modifiers == Qt::NoModifier) {
         text_->setOverwriteMode(!text_->overwriteMode());
-        showMode();
         emit caretStateChanged();
         return true;
     }

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "gui/qt_colours.h"
+#include "gui/colour_map.h"
 #include "gui/qt_text.h"
 #include "gui/qt_text_control.h"
 #include "qt_text_operation.h"
@@ -108,14 +108,13 @@ void QtTextControl::mergeCharacterFormat(const QTextCharFormat& change) {
 std::int32_t QtTextControl::SelColor() const {
     const QTextCharFormat format = selectionFormat();
     if (format.hasProperty(kColourProperty)) return format.intProperty(kColourProperty);
-    if (format.foreground().style() != Qt::NoBrush)
-        return colourNumber(format.foreground().color());
+    if (format.foreground().style() != Qt::NoBrush) return fromQColor(format.foreground().color());
     return kBlack;
 }
 
 void QtTextControl::SetSelColor(std::int32_t colour) {
     QTextCharFormat change;
-    change.setForeground(qtColour(colour, edit_->palette()));
+    change.setForeground(toQColor(colour, edit_->palette()));
     change.setProperty(kColourProperty, colour);
     mergeCharacterFormat(change);
 }

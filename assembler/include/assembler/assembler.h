@@ -134,6 +134,8 @@ class Assembler {
     void growRowsTo(std::int32_t row);
     void setCodeText(const std::string& text);
     std::string positionText() const;
+    // Gives a row the place of the line being read.
+    void placeRow(SourceRow& row) const;
 
     // Instruction families, in the order of the dispatch.
     void encodeArithmetic();
@@ -195,6 +197,9 @@ class Assembler {
     RunState state_;
     CpuDriver driver_;
     bool abortRequested_ = false;
+    // Where the statements of the line being prepared end; kept to spare an
+    // allocation per line.
+    std::vector<std::size_t> statementEnds_;
     std::map<int, SourceFile> files_;
 };
 

@@ -24,13 +24,13 @@ enum class NothingToCompile {
     ProjectNotFound,  // already said through the host's message box
 };
 
-// `caption` is the active window's caption (its file path), `text` its text.
+// `caption` is the active window's caption (its file path), `text` its text,
+// taken over, since a large source should not be copied on its way to the run.
 // Nothing comes back for a disassembly window, an empty text, a "#PART OF"
 // line without a line end behind it, or a project that can't be found; the
 // last of these says so through the host's message box. `why` receives the
 // reason when nothing comes back.
-std::optional<CompileSource> decideCompileSource(const std::string& caption,
-                                                 const std::string& text, Host& host,
-                                                 NothingToCompile* why = nullptr);
+std::optional<CompileSource> decideCompileSource(const std::string& caption, std::string text,
+                                                 Host& host, NothingToCompile* why = nullptr);
 
 }  // namespace korvex

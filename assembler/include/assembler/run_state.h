@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "assembler/error_catalogue.h"
@@ -15,13 +16,31 @@
 
 namespace korvex {
 
-// One row per statement. The text columns are the interface between stages.
+// A text kept in RunState::rowTexts: where it starts and how long it is.
+struct RowText {
+    std::uint32_t at = 0;
+    std::uint32_t length = 0;
+};
+
+// A finding or note on one row.
+struct RowMarker {
+    std::int32_t row = 0;
+    RowText text;
+};
+
+// One row per statement. A run holds one per line of a large source, so the
+// row is small: its texts lie one after the other in RunState::rowTexts, its
+// place is two numbers (shown as "file:line"), and the rare finding marker
+// lives beside the table, in RunState::markers.
 struct SourceRow {
-    std::string marker;      // ";>err..." finding, empty when clean
-    std::string position;    // file number ":" line number
-    std::string statement;   // the statement as the second pass sees it
-    std::string sourceText;  // the raw line, on the first row of a line only
-    bool retry = false;      // the second pass must encode the row again
+    RowText statement;      // the statement as the second pass sees it
+    RowText sourceText;     // the raw line, on the first row of a line only
+    std::int32_t line = 0;  // line number in its file
+    std::int16_t file = 0;  // file number; 0 while the row has no place of its own
+    bool retry = false;     // the second pass must encode the row again
+
+    // The place as the listing and the report show it: "2:17", or empty.
+    std::string position() const;
 };
 
 // Operand classes as classifyOperand and parseBitOperand return them.
@@ -113,6 +132,33 @@ struct RunState {
 
     std::vector<SourceRow> sourceTable;
     std::vector<std::string> codeText;
+    // The texts of the rows; a text replaced stays behind unused until the next run.
+    std::string rowTexts;
+    std::string_view textOf(RowText text) const {
+        return std::string_view(rowTexts).substr(text.at, text.length);
+    }
+    RowText keepText(std::string_view text);
+    std::string_view statementOf(std::size_t row) const {
+        return textOf(sourceTable[row].statement);
+    }
+    std::string_view sourceTextOf(std::size_t row) const {
+        return textOf(sourceTable[row].sourceText);
+    }
+
+    // The ";>err..." findings and table notes, by row in rising order, with
+    // their texts in a buffer of their own, so that the many markers of forward
+    // references don't make rowTexts move. A row without one, or with an empty
+    // one, is clean.
+    std::vector<RowMarker> markers;
+    std::string markerTexts;
+    std::string_view markerText(const RowMarker& marker) const {
+        return std::string_view(markerTexts).substr(marker.text.at, marker.text.length);
+    }
+
+    std::string_view markerOf(std::size_t row) const;
+    void setMarker(std::int32_t row, std::string_view text);
+    void appendMarker(std::int32_t row, std::string_view text);
+    void clearMarker(std::int32_t row);
 
     TextTable<4> labelTable;     // key, decimal address, use mark, "name: Zeile pos"
     TextTable<3> sfrTable;       // name, hexadecimal address, "1"

@@ -20,6 +20,7 @@ class SourceFile {
     // Raises "Einlesen hinter Dateiende" when the file is at its end.
     std::string readLine();
     bool atEnd() const { return position_ >= bytes_.size(); }
+    std::size_t size() const { return bytes_.size(); }
     // Lines to expect, for reserving room.
     std::size_t lineEstimate() const;
 

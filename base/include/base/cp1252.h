@@ -23,5 +23,7 @@ inline std::string text8(std::string_view utf8) {
 // Upper-casing that folds the Windows-1252 letters too (ä to Ä, š to Š, ÿ to Ÿ).
 char upperChar(char c);
 std::string upperCase(std::string_view text);
+// The same in place, for the hot paths that own their text already.
+void upperCaseInPlace(std::string& text);
 
 }  // namespace korvex

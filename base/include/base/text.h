@@ -30,7 +30,12 @@ std::string hexDigits(std::int64_t value, int width = 0);
 void appendHex2(std::string& out, std::int64_t value);
 
 // Value of one hexadecimal digit, either case, or -1.
-int hexDigitValue(char c);
+inline int hexDigitValue(char c) {
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    return -1;
+}
 
 // Decimal text; `signPlace` puts a blank before a value that is not negative.
 std::string decimalText(std::int64_t value, bool signPlace = false);

@@ -53,7 +53,7 @@ struct CompileResult {
 // `assembler` is the workbench's long-lived one; its program folder and the
 // extensions of `settings` are used for this run.
 CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& settings,
-                            const CompileRequest& request);
+                            CompileRequest request);
 
 // The findings of the last run of `state`, in the order of the rows.
 std::vector<FindingPlace> findingsOf(const RunState& state);

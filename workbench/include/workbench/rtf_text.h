@@ -1,19 +1,18 @@
 #pragma once
-// The two directions between plain text and RTF that LoadFile and SaveFile
-// need: the text of an RTF document (its formatting, tables of fonts and
-// colours, pictures and other destinations dropped), and a plain RTF
-// document of a text.
+// The plain text of an RTF document, as a rich text control shows it and
+// saves it as text: paragraphs end in CR LF, tabs stay, escaped characters
+// become their Windows-1252 bytes, and font tables, pictures and other
+// destinations are left out. Enough for sources that were once saved as RTF.
 
 #include <string>
 #include <string_view>
 
 namespace korvex {
 
-// Paragraphs and line breaks become CR LF, \tab a tab, \'hh and \uN their
-// Windows-1252 characters. Never fails: broken RTF gives what could be read.
-std::string plainTextOfRtf(std::string_view rtf);
+// Does a file that begins with these bytes hold RTF? (Its first 20 bytes
+// contain "{\rtf1\ansi".)
+bool looksLikeRtf(std::string_view firstBytes);
 
-// A document in one font that reads back as `text`.
-std::string rtfOfPlainText(std::string_view text);
+std::string plainTextOfRtf(std::string_view rtf);
 
 }  // namespace korvex

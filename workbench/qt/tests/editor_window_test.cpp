@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
@@ -46,7 +45,6 @@ TEST_F(EditorWindowTest, EnterIndentsLikeTheLineAbove) {
     EXPECT_EQ(window->sourceText(), "\tMOV A,#1\r\n\tNOP");
     EXPECT_EQ(window->caretLine(), 2);
     EXPECT_GE(edited.count(), 1);
-    EXPECT_EQ(window->findChild<QLabel*>("StbarZeile")->text(), "Zeile 2");
 }
 
 TEST_F(EditorWindowTest, TypedCommentTakesItsColourWhenTheCaretLeavesTheLine) {

@@ -12,8 +12,6 @@
 #include "workbench/go_to_line.h"
 #include "workbench/settings.h"
 
-class QLabel;
-class QStatusBar;
 class QTextEdit;
 
 namespace korvex {
@@ -34,7 +32,7 @@ class EditorWindow : public QWidget {
     EditorWindow(EditorFlags& flags, const Settings& settings, QWidget* parent = nullptr);
     ~EditorWindow() override;
 
-    // The slot in the document table, kept as the design's Tag.
+    // The slot in the document table, kept as the window's Tag.
     int slot() const { return slot_; }
     void setSlot(int slot) { slot_ = slot; }
 
@@ -87,7 +85,8 @@ class EditorWindow : public QWidget {
     // The selection changed while the handler was not suspended: this window
     // becomes the ActiveDocument.
     void selectionTouched();
-    // Caret line or insert/overwrite mode changed.
+    // Caret line or insert/overwrite mode changed (the line is shown by the
+    // selection handler, so not while Shift, Ctrl or Alt is held).
     void caretStateChanged();
     // Cut, copy and delete are enabled exactly while there is a selection.
     void selectionExtentChanged(bool hasSelection);
@@ -105,8 +104,6 @@ class EditorWindow : public QWidget {
 
     bool disassembly() const;
     void applyBackground();
-    void showCaretLine(int line);
-    void showMode();
     void reportFailure(const RuntimeFailure& failure, const char* procedure);
     // Runs a command; a failure shows its box instead of leaving the event.
     void guarded(const char* procedure, const std::function<void()>& action);
@@ -118,9 +115,6 @@ class EditorWindow : public QWidget {
     EditorFlags& flags_;
     Settings settings_;
     QTextEdit* text_ = nullptr;
-    QStatusBar* status_ = nullptr;
-    QLabel* lineLabel_ = nullptr;
-    QLabel* modeLabel_ = nullptr;
     std::unique_ptr<QtTextControl> box_;
     std::unique_ptr<Events> events_;
     std::unique_ptr<SourceEditor> editor_;

@@ -1,0 +1,125 @@
+#pragma once
+// frmMDI: the main window. It owns the settings, the document table, the
+// source windows on its QMdiArea, the menus, Toolbar1 and the status bar,
+// and runs the commands. Message boxes, file dialogs and the per-user store
+// are handed in, so that tests can script them.
+
+#include <QHash>
+#include <QMainWindow>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "base/host.h"
+#include "gui/editor_document.h"
+#include "workbench/command_visibility.h"
+#include "workbench/document_table.h"
+#include "workbench/editor_flags.h"
+#include "workbench/file_commands.h"
+#include "workbench/recent_files.h"
+#include "workbench/settings.h"
+
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
+
+namespace korvex::gui {
+
+class CommandMenus;
+class CommandToolbar;
+
+struct MainWindowServices {
+    Host& host;
+    FileDialogs& dialogs;
+    UserSettingsStore& userStore;
+};
+
+class MainWindow : public QMainWindow, private Workspace {
+    Q_OBJECT
+
+  public:
+    MainWindow(std::string programFolder, MainWindowServices services, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // Reads korvex.cfg and opens the first windows and the file named on the
+    // command line. False when the user chose not to run without settings.
+    bool start(const std::string& commandLine);
+
+    // Runs a command of the menus or the toolbar by its name.
+    void runCommand(const QString& name);
+
+    Settings& settings() { return settings_; }
+    const DocumentTable& documents() const { return documents_; }
+    FileCommands& commands() { return commands_; }
+    QMdiArea* area() const { return area_; }
+    CommandMenus* menus() const { return menus_; }
+    CommandToolbar* toolbar() const { return toolbar_; }
+    // The active source window, nullptr when another window or none is active.
+    EditorWindow* activeEditor() const;
+    std::vector<EditorWindow*> editors() const;
+    // The text of the source window with this caption (compared in upper
+    // case), as a run reads an include that is open.
+    std::optional<std::string> openWindowText(const std::string& caption) const;
+
+    // Shows colours at once in every open window (the settings dialog's
+    // preview), without storing them.
+    void showColours(const Settings& withColours);
+    // After the settings dialog stored its choices.
+    void settingsApplied(bool wrappingChanged, bool bookmarksTurnedOff);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    // Workspace
+    DocumentWindow* createDocumentWindow() override;
+    void showDocumentWindow(DocumentWindow& window) override;
+    void focusDocumentWindow(DocumentWindow& window) override;
+    DocumentWindow* activeDocumentWindow() override;
+    void placeInHalf(DocumentWindow& window, bool right) override;
+    void setWaitCursor(bool waiting) override;
+    void showRecentFiles(const std::vector<std::string>& paths) override;
+
+    void buildStatusBar();
+    void registerCommands();
+    void applyStartSettings();
+    EditorDocument* documentOf(QMdiSubWindow* frame) const;
+    void windowActivated(QMdiSubWindow* frame);
+    void frameDestroyed(QMdiSubWindow* frame);
+    void refreshCommands();
+    void updateEditCommands();
+    void updateStatus();
+    void fillWindowMenu(QMenu* menu);
+    void notAvailable(const QString& name);
+
+    void print();
+    void chooseFont();
+    void editExtensions();
+    void editSetup();
+
+    std::string programFolder_;
+    Host& host_;
+    FileDialogs& dialogs_;
+    Settings settings_;
+    DocumentTable documents_;
+    RecentFiles recent_;
+    FileCommands commands_;
+    EditorFlags flags_;
+
+    QMdiArea* area_ = nullptr;
+    CommandMenus* menus_ = nullptr;
+    CommandToolbar* toolbar_ = nullptr;
+    QLabel* lineLabel_ = nullptr;
+    QLabel* modeLabel_ = nullptr;
+    QLabel* controllerLabel_ = nullptr;
+    QList<QAction*> windowList_;
+    std::map<QMdiSubWindow*, std::unique_ptr<EditorDocument>> frames_;
+    QHash<QString, std::function<void()>> handlers_;
+    bool closing_ = false;
+};
+
+}  // namespace korvex::gui

@@ -1,0 +1,127 @@
+// The commands of frmMDI by name. A command without a handler here belongs
+// to a window that isn't built yet, and says so.
+
+#include <QFontDialog>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
+#include <QTextEdit>
+
+#include "base/cp1252.h"
+#include "gui/command_menus.h"
+#include "gui/extensions_dialog.h"
+#include "gui/main_window.h"
+#include "gui/qt_text.h"
+#include "gui/setup_dialog.h"
+#include "gui/window_arrangement.h"
+#include "workbench/block_edit.h"
+#include "workbench/captions.h"
+
+namespace korvex::gui {
+
+void MainWindow::registerCommands() {
+    auto onText = [this](auto act) {
+        return [this, act] {
+            if (EditorWindow* editor = activeEditor()) act(editor);
+        };
+    };
+    handlers_ = {
+        {"mnuFNew", [this] { commands_.NewDocument(); }},
+        {"mnuFOpen", [this] { commands_.OpenSourceDialog(); }},
+        {"mnuFSave", [this] { commands_.SaveDocument(); }},
+        {"mnuFSaveAs", [this] { commands_.SaveDocumentAs(); }},
+        {"mnuFClose",
+         [this] {
+             if (QMdiSubWindow* frame = area_->currentSubWindow()) frame->close();
+         }},
+        {"MnFDrucken", [this] { print(); }},
+        {"MnuDrucken", [this] { print(); }},
+        {"mnuFExit", [this] { close(); }},
+        {"mnuECut", onText([](EditorWindow* e) { e->textEdit()->cut(); })},
+        {"mnuECopy", onText([](EditorWindow* e) { e->textEdit()->copy(); })},
+        {"mnuEPaste", onText([](EditorWindow* e) { e->textEdit()->paste(); })},
+        {"mnuEDelete", onText([](EditorWindow* e) { e->deleteSelection(); })},
+        {"mnuESelectAll", onText([](EditorWindow* e) { e->textEdit()->selectAll(); })},
+        {"mnuEGoto", onText([](EditorWindow* e) { e->goToLine(); })},
+        {"mnuEKomment", onText([](EditorWindow* e) { e->blockEdit(true, kCommentSymbol); })},
+        {"mnuEentKomment", onText([](EditorWindow* e) { e->blockEdit(false, kCommentSymbol); })},
+        {"mnuEInsertTab", onText([](EditorWindow* e) { e->blockEdit(true, kIndentSymbol); })},
+        {"mnuEDelTab", onText([](EditorWindow* e) { e->blockEdit(false, kIndentSymbol); })},
+        {"mnuELesezeichenEntfernen", onText([](EditorWindow* e) { e->removeBookmarks(); })},
+        {"mnuOExtensions", [this] { editExtensions(); }},
+        {"mnuOToolbar", [this] { editSetup(); }},
+        {"mnuFont", [this] { chooseFont(); }},
+        {"mnuWleft", [this] { gui::placeInHalf(area_, area_->currentSubWindow(), false); }},
+        {"mnuWRight", [this] { gui::placeInHalf(area_, area_->currentSubWindow(), true); }},
+        {"mnuWCascade", [this] { cascade(area_); }},
+        {"mnuWTile", [this] { tileOneUnderAnother(area_); }},
+        {"mnuWArrange", [this] { arrangeIcons(area_); }},
+    };
+}
+
+void MainWindow::runCommand(const QString& name) {
+    if (const auto handler = handlers_.constFind(name); handler != handlers_.constEnd()) {
+        (*handler)();
+    } else {
+        notAvailable(name);
+    }
+}
+
+void MainWindow::notAvailable(const QString& name) {
+    host_.messageBox(std::string(kMainCaption),
+                     toCp1252(QStringLiteral("„%1“ ist in dieser Version noch nicht verfügbar.")
+                                  .arg(menus_->plainCaption(name))),
+                     MessageButtons::Ok, MessageIcon::Information);
+}
+
+void MainWindow::print() {
+    EditorWindow* editor = activeEditor();
+    if (editor == nullptr) return;
+    QTextEdit* text = editor->textEdit();
+    QPrinter printer;
+    QPrintDialog dialog(&printer, this);
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, text->textCursor().hasSelection());
+    if (dialog.exec() != QDialog::Accepted) return;
+    if (printer.printRange() == QPrinter::Selection && text->textCursor().hasSelection()) {
+        QTextDocument selection;
+        selection.setDefaultFont(text->document()->defaultFont());
+        QTextCursor(&selection).insertFragment(text->textCursor().selection());
+        selection.print(&printer);
+    } else {
+        text->print(&printer);
+    }
+}
+
+void MainWindow::chooseFont() {
+    EditorWindow* editor = activeEditor();
+    QFont initial(fromCp1252(settings_.EditorFontName), settings_.EditorFontSize,
+                  settings_.EditorFontBold ? QFont::Bold : QFont::Normal,
+                  settings_.EditorFontItalic);
+    bool ok = false;
+    const QFont font = QFontDialog::getFont(&ok, initial, this);
+    if (!ok) return;
+    settings_.EditorFontName = toCp1252(font.family());
+    settings_.EditorFontSize = static_cast<std::int16_t>(std::clamp(font.pointSize(), 1, 32767));
+    settings_.EditorFontBold = font.bold();
+    settings_.EditorFontItalic = font.italic();
+    // Only the active window takes the font now; others when they are formatted.
+    if (editor != nullptr) editor->formatDocumentText();
+}
+
+void MainWindow::editExtensions() {
+    ExtensionsDialog dialog(settings_, host_, this);
+    dialog.exec();
+}
+
+void MainWindow::editSetup() {
+    SetupDialog dialog(settings_, host_, *toolbar_, this);
+    connect(&dialog, &SetupDialog::coloursChanged, this, &MainWindow::showColours);
+    connect(&dialog, &SetupDialog::applied, this, &MainWindow::settingsApplied);
+    dialog.exec();
+}
+
+}  // namespace korvex::gui
