@@ -109,7 +109,10 @@ void MainWindow::chooseFont() {
     settings_.EditorFontBold = font.bold();
     settings_.EditorFontItalic = font.italic();
     // Only the active window takes the font now; others when they are formatted.
-    if (editor != nullptr) editor->formatDocumentText();
+    if (editor != nullptr) {
+        editor->applySettings(settings_);
+        editor->formatDocumentText();
+    }
 }
 
 void MainWindow::editExtensions() {
