@@ -37,6 +37,7 @@ void RemoveBookmarks(TextControl& box, EditorFlags& flags) {
     if (pictures.empty()) return;
     FlagGuard selection(flags.SuspendSelChange);
     FlagGuard change(flags.SuspendChange);
+    OutOfSight hidden(box);
     const std::int32_t caret = box.SelStart();
     const auto before = std::count_if(pictures.begin(), pictures.end(),
                                       [caret](std::int32_t at) { return at < caret; });
