@@ -15,7 +15,6 @@
 #include "gui/colour_map.h"
 #include "gui/command_menus.h"
 #include "gui/command_toolbar.h"
-#include "gui/edit_commands.h"
 #include "gui/qt_text.h"
 #include "gui/window_arrangement.h"
 #include "workbench/captions.h"
@@ -160,6 +159,10 @@ DocumentWindow* MainWindow::createDocumentWindow() {
     EditorDocument* raw = document.get();
     frames_.emplace(frame, std::move(document));
 
+    editor->setHost(&host_);
+    connect(editor, &EditorWindow::editMenuRequested, this, [this](const QPoint& at) {
+        if (QMenu* edit = menus_->menu(QStringLiteral("mnuEdit"))) edit->popup(at);
+    });
     connect(editor, &EditorWindow::textEdited, this, [this, raw] { commands_.TextEdited(*raw); });
     connect(editor, &EditorWindow::selectionTouched, this, [this, raw] {
         commands_.Touched(*raw);

@@ -13,12 +13,12 @@
 
 #include "base/cp1252.h"
 #include "gui/command_menus.h"
-#include "gui/edit_commands.h"
 #include "gui/extensions_dialog.h"
 #include "gui/main_window.h"
 #include "gui/qt_text.h"
 #include "gui/setup_dialog.h"
 #include "gui/window_arrangement.h"
+#include "workbench/block_edit.h"
 #include "workbench/captions.h"
 
 namespace korvex::gui {
@@ -44,12 +44,13 @@ void MainWindow::registerCommands() {
         {"mnuECut", onText([](EditorWindow* e) { e->textEdit()->cut(); })},
         {"mnuECopy", onText([](EditorWindow* e) { e->textEdit()->copy(); })},
         {"mnuEPaste", onText([](EditorWindow* e) { e->textEdit()->paste(); })},
-        {"mnuEDelete", onText([this](EditorWindow* e) {
-             if (deleteSelectionOrCharacter(e->textEdit())) e->applySettings(settings_);
-         })},
+        {"mnuEDelete", onText([](EditorWindow* e) { e->deleteSelection(); })},
         {"mnuESelectAll", onText([](EditorWindow* e) { e->textEdit()->selectAll(); })},
-        {"mnuEGoto",
-         onText([this](EditorWindow* e) { askAndGoToLine(e->textEdit(), e->caretLine(), this); })},
+        {"mnuEGoto", onText([](EditorWindow* e) { e->goToLine(); })},
+        {"mnuEKomment", onText([](EditorWindow* e) { e->blockEdit(true, kCommentSymbol); })},
+        {"mnuEentKomment", onText([](EditorWindow* e) { e->blockEdit(false, kCommentSymbol); })},
+        {"mnuEInsertTab", onText([](EditorWindow* e) { e->blockEdit(true, kIndentSymbol); })},
+        {"mnuEDelTab", onText([](EditorWindow* e) { e->blockEdit(false, kIndentSymbol); })},
         {"mnuELesezeichenEntfernen", onText([](EditorWindow* e) { e->removeBookmarks(); })},
         {"MnCompDisass", [this] { disassemble(); }},
         {"mnuDisasKonfig", [this] { configureDisassembler(); }},
@@ -110,7 +111,10 @@ void MainWindow::chooseFont() {
     settings_.EditorFontBold = font.bold();
     settings_.EditorFontItalic = font.italic();
     // Only the active window takes the font now; others when they are formatted.
-    if (editor != nullptr) editor->applySettings(settings_);
+    if (editor != nullptr) {
+        editor->applySettings(settings_);
+        editor->formatDocumentText();
+    }
 }
 
 void MainWindow::editExtensions() {

@@ -140,12 +140,12 @@ TEST(MainWindow, KeysReachTheirCommandsAndCtrlF4DoesntCloseTheWindow) {
     QApplication::setActiveWindow(&bench.window);
     bench.text()->setFocus();
     QTest::keyClick(bench.text(), Qt::Key_F5);
-    QTest::keyClick(bench.text(), Qt::Key_F4, Qt::ControlModifier);
-    ASSERT_EQ(bench.host.boxes.size(), 2u);
-    EXPECT_NE(bench.host.boxes[1].text.find("Entkommentieren"), std::string::npos);
+    ASSERT_EQ(bench.host.boxes.size(), 1u);
+    QTest::keyClicks(bench.text(), ";nop");
+    QTest::keyClick(bench.text(), Qt::Key_F4, Qt::ControlModifier);  // uncomments
+    EXPECT_EQ(bench.window.openWindowText("unbenannt 1"), "nop");
     Bench::settle();
     EXPECT_EQ(bench.windows(), 1);
-    QTest::keyClicks(bench.text(), "nop");
     QTest::keyClick(bench.text(), Qt::Key_Return);
     EXPECT_EQ(bench.window.findChild<QLabel*>(QStringLiteral("StbarZeile"))->text(),
               QStringLiteral("Zeile 2"));
@@ -174,14 +174,34 @@ TEST(MainWindow, EveryCommandHasItsCaptionKeyAndToolTip) {
     EXPECT_FALSE(bench.button(21)->icon().isNull());
 
     // What isn't built yet says so, every one of them.
-    const QStringList working = {"mnuFNew",        "mnuFOpen",      "mnuFSave",
-                                 "mnuFSaveAs",     "mnuFClose",     "MnFDrucken",
-                                 "MnuDrucken",     "mnuFExit",      "mnuECut",
-                                 "mnuECopy",       "mnuEPaste",     "mnuEDelete",
-                                 "mnuEGoto",       "mnuFont",       "mnuWleft",
-                                 "mnuWRight",      "mnuWCascade",   "mnuWTile",
-                                 "mnuWArrange",    "mnuESelectAll", "mnuELesezeichenEntfernen",
-                                 "mnuOExtensions", "mnuOToolbar",   "MnCompDisass",
+    const QStringList working = {"mnuFNew",
+                                 "mnuFOpen",
+                                 "mnuFSave",
+                                 "mnuFSaveAs",
+                                 "mnuFClose",
+                                 "MnFDrucken",
+                                 "MnuDrucken",
+                                 "mnuFExit",
+                                 "mnuECut",
+                                 "mnuECopy",
+                                 "mnuEPaste",
+                                 "mnuEDelete",
+                                 "mnuEGoto",
+                                 "mnuFont",
+                                 "mnuWleft",
+                                 "mnuEKomment",
+                                 "mnuEentKomment",
+                                 "mnuEInsertTab",
+                                 "mnuEDelTab",
+                                 "mnuWRight",
+                                 "mnuWCascade",
+                                 "mnuWTile",
+                                 "mnuWArrange",
+                                 "mnuESelectAll",
+                                 "mnuELesezeichenEntfernen",
+                                 "mnuOExtensions",
+                                 "mnuOToolbar",
+                                 "MnCompDisass",
                                  "mnuDisasKonfig"};
     int told = 0;
     for (const MenuRow& row : menuRows()) {
