@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTextEdit>
 
@@ -40,7 +41,13 @@ MainWindow::MainWindow(std::string programFolder, MainWindowServices services, Q
     setObjectName(QStringLiteral("frmMDI"));
     setWindowTitle(fromCp1252(std::string(kMainCaption)));
     setContextMenuPolicy(Qt::NoContextMenu);
-    resize(960, 680);
+    // Most of the screen, as the workbench is where the day's work happens.
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+        const QRect available = screen->availableGeometry();
+        resize(available.width() * 9 / 10, available.height() * 9 / 10);
+    } else {
+        resize(960, 680);
+    }
 
     area_ = new QMdiArea(this);
     area_->setObjectName(QStringLiteral("MDIClient"));
@@ -181,6 +188,15 @@ DocumentWindow* MainWindow::createDocumentWindow() {
 void MainWindow::showDocumentWindow(DocumentWindow& window) {
     QMdiSubWindow* frame = static_cast<EditorDocument&>(window).frame();
     if (frame == nullptr) return;
+    if (!frame->property("placed").toBool()) {
+        // As a new child window of the classic frame: three quarters of the
+        // inner area, each one a step further down and right.
+        frame->setProperty("placed", true);
+        const QSize inner = area_->viewport()->size();
+        const int step = 24 * static_cast<int>((area_->subWindowList().size() - 1) % 8);
+        frame->resize(std::max(inner.width() * 3 / 4, 320), std::max(inner.height() * 3 / 4, 200));
+        frame->move(step, step);
+    }
     frame->show();
     area_->setActiveSubWindow(frame);
     refreshCommands();
