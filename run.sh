@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds Korvex and runs its main job: the example source through the assembler.
+# Builds Korvex and starts the workbench with the example open. Without a
+# display it says so and assembles the example on the command line instead.
 set -euo pipefail
 cd "$(dirname "$0")"
 scripts/setup-debian.sh
@@ -8,6 +9,14 @@ cmake --build --preset default
 example=build/beispiel/beispiel.a51
 mkdir -p "$(dirname "$example")"
 cp examples/beispiel.a51 "$example"
+
+if [[ -n ${DISPLAY:-} || -n ${WAYLAND_DISPLAY:-} ]]; then
+    echo "== Starte die Werkbank: build/bin/korvex $example"
+    exec build/bin/korvex "$example"
+fi
+
+echo "Keine grafische Anzeige gefunden (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt)."
+echo "Die Werkbank braucht eine; das Beispiel wird stattdessen auf der Kommandozeile übersetzt."
 rm -f "${example%.a51}".[bhls]51
 echo "== korvex-asm --all $example"
 status=0

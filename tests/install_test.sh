@@ -47,4 +47,16 @@ env -u KORVEX_HOME HOME="$work/home" "$prefix/bin/korvex-disasm" --controller 80
     "$work/src/probe.h51" >listing.txt 2>&1 || fail "korvex-disasm: $(cat listing.txt)"
 grep -q 'P1' listing.txt || fail "korvex-disasm ohne Treibernamen: $(cat listing.txt)"
 [ -z "$(ls -A "$work/home")" ] || fail "korvex-disasm schrieb ins HOME"
+# The workbench, where it is built: its menu entry and icon are installed, and
+# on its first start it makes the user's program folder from the installation.
+if [ -x "$prefix/bin/korvex" ]; then
+    [ -f "$prefix/share/applications/korvex.desktop" ] || fail "Menüeintrag fehlt"
+    [ -f "$prefix/share/icons/hicolor/scalable/apps/korvex.svg" ] || fail "Symbol fehlt"
+    mkdir -p "$work/home2"
+    # It waits for the user (the question about the missing korvex.cfg): stop it after a while.
+    env -u KORVEX_HOME HOME="$work/home2" QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$work" \
+        timeout 5 "$prefix/bin/korvex" >/dev/null 2>&1 || true
+    [ -f "$work/home2/.local/share/korvex/80C32.cpu" ] ||
+        fail "die Werkbank legte ~/.local/share/korvex nicht aus der Installation an"
+fi
 echo "Installation in Ordnung"

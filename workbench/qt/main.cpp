@@ -5,6 +5,7 @@
 #include <QTranslator>
 
 #include "base/program_folder.h"
+#include "gui/app_icon.h"
 #include "gui/main_window.h"
 #include "gui/qt_file_dialogs.h"
 #include "gui/qt_host.h"
@@ -40,6 +41,8 @@ CommandLine readCommandLine(const QStringList& arguments) {
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Korvex"));
+    QApplication::setWindowIcon(korvex::gui::applicationIcon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("korvex"));
     // Standard buttons and dialogs speak German through Qt's own translation.
     QTranslator qtGerman;
     if (qtGerman.load(QStringLiteral("qtbase_de"),
