@@ -6,9 +6,11 @@
 #include <QMenu>
 
 #include "base/cp1252.h"
+#include "base/files.h"
 #include "gui/command_table.h"
 #include "main_window_fixture.h"
 #include "workbench/settings_file.h"
+#include "workbench/text_control.h"
 
 namespace korvex::gui {
 namespace {
@@ -215,6 +217,39 @@ TEST(MainWindow, EveryCommandHasItsCaptionKeyAndToolTip) {
         ++told;
     }
     EXPECT_GT(told, 60);
+}
+
+}  // namespace
+}  // namespace korvex::gui
+
+namespace korvex::gui {
+namespace {
+
+TEST(MainWindow, EditingKeysThenClosingWithYesSavesTheTextWithoutBookmarks) {
+    Bench bench;
+    bench.window.settings().BookmarksEnabled = true;
+    const std::string name = bench.folder.write("prog.a51", "start:\r\n");
+    bench.dialogs.answers = {name};
+    bench.trigger("mnuFOpen");
+    bench.window.activeEditor()->applySettings(bench.window.settings());
+    QApplication::setActiveWindow(&bench.window);
+    bench.text()->setFocus();
+
+    bench.text()->moveCursor(QTextCursor::End);
+    QTest::keyClicks(bench.text(), "\tmov a,#1");
+    QTest::keyClick(bench.text(), Qt::Key_Return);  // indents like the line above
+    QTest::keyClicks(bench.text(), "nop");
+    QTest::keyClick(bench.text(), Qt::Key_F3, Qt::ControlModifier);  // comments the line
+    bench.window.activeEditor()->toggleBookmark();
+    EXPECT_FALSE(bench.window.activeEditor()->textControl().PicturePositions().empty());
+
+    bench.host = ScriptedHost({MessageAnswer::Yes});
+    bench.trigger("mnuFClose");
+    Bench::settle();
+    ASSERT_EQ(bench.host.boxes.size(), 1u);
+    EXPECT_EQ(bench.windows(), 0);
+    EXPECT_EQ(bench.folder.read("prog.a51"), "start:\r\n\tmov a,#1\r\n;\tnop");
+    EXPECT_FALSE(fileExists(bench.folder.path() + "prog.sik51"));  // closing writes no backup
 }
 
 }  // namespace
