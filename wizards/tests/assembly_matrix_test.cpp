@@ -127,8 +127,8 @@ TEST_P(AssemblyMatrix, ProgramAssemblesWithoutFinding) {
     for (bool answer : GetParam().answers) host_.answers.push_back(answer);
     apply(GetParam().settings);
     EXPECT_EQ(host_.unanswered, 0);
-    const AssembledProgram result = assembleProgram(program());
-    ASSERT_TRUE(result.completed) << toUtf8(program());
+    const AssembledSource result = assembleProgram(program());
+    ASSERT_EQ(result.outcome, RunOutcome::Completed) << toUtf8(program());
     EXPECT_EQ(result.findings, std::vector<std::string>{}) << toUtf8(program());
     EXPECT_EQ(unexpectedWarnings(result.report), std::vector<std::string>{})
         << toUtf8(result.report) << toUtf8(program());
@@ -142,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(Assistent52, AssemblyMatrix, ::testing::ValuesIn(matrix
 // assemble until the user adds to it.
 TEST_F(GeneratedProgramAssembly, SerialInterruptWithoutPortLeavesTheLoopOpen) {
     set("ICheck1(4)", "1");
-    const AssembledProgram result = assembleProgram(program());
+    const AssembledSource result = assembleProgram(program());
     EXPECT_FALSE(result.findings.empty() && result.report.rfind("Warnungen/Fehler:", 0) != 0)
         << toUtf8(result.report);
     EXPECT_TRUE(hasLine("loop\t; Routine für seriellen Empfang"));

@@ -1,70 +1,30 @@
 #include "program_assembly.h"
 
-#include <filesystem>
-
-#include "assembler/assembler.h"
-#include "assembler/code_image.h"
-#include "assembler/source_file.h"
 #include "base/cp1252.h"
-#include "base/host.h"
-#include "base/program_folder.h"
 #include "base/text.h"
+#include "testing/process.h"
 
 namespace korvex::wizards::testing {
-namespace {
 
-class PrivateFolder {
-  public:
-    PrivateFolder() : path_(makePrivateTemporaryFolder()) {}
-    ~PrivateFolder() {
-        std::error_code ec;
-        std::filesystem::remove_all(path_, ec);
-    }
-    const std::string& path() const { return path_; }
+AssembledSource assembleProgram(const std::string& program) {
+    const korvex::testing::ScratchFolder folder;
+    return korvex::testing::assembleText(program, std::string(KORVEX_DATA_DIR) + "/cpu/",
+                                         folder.path());
+}
 
-  private:
-    std::string path_;
-};
-
-}  // namespace
-
-AssembledProgram assembleProgram(const std::string& program, const std::string& stopStatement) {
-    AssembledProgram result;
-    PrivateFolder folder;
-    AssemblerSettings settings;
-    settings.programFolder = std::string(KORVEX_DATA_DIR) + "/cpu/";
-    settings.temporaryFolder = folder.path();
-    QuietHost host;
-    Assembler assembler(host, settings);
-    writeWholeFile(folder.path() + "TmpFile.tmp", program);
-    std::string name = folder.path() + "wizard.a51";
-    result.completed = assembler.assembleSource(name, {}) == RunOutcome::Completed;
-    const RunState& state = assembler.state();
-    result.report = state.reportText;
-    for (const auto& row : state.sourceTable) {
-        if (!row.marker.empty()) {
-            result.findings.push_back(row.position + " " + row.marker + " " + row.statement);
-        }
+std::optional<std::int32_t> stopAddress(const AssembledSource& assembled,
+                                        const std::string& stopStatement) {
+    const auto rows = korvex::testing::listedRows(assembled.listing);
+    std::size_t stop = rows.size();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const std::string& source = rows[i].source;
+        if (cleaned(upperCase(source.substr(0, source.find(';')))) == stopStatement) stop = i;
     }
-    result.hexText = hexFileText(state.codeText);
-    // The last row whose statement is `stopStatement`, then its first code row.
-    std::size_t stopRow = state.sourceTable.size();
-    for (std::size_t i = 0; i < state.sourceTable.size(); ++i) {
-        std::string statement = state.sourceTable[i].statement;
-        statement = upperCase(statement.substr(0, statement.find(';')));
-        cleanText(statement);
-        if (statement == stopStatement) stopRow = i;
+    for (std::size_t i = stop; i < rows.size(); ++i) {
+        if (!rows[i].bytes.empty())
+            return static_cast<std::int32_t>(parseHexPrefix(rows[i].address));
     }
-    for (std::size_t i = stopRow; i < state.sourceTable.size() && i < state.codeText.size(); ++i) {
-        std::string code = state.codeText[i];
-        cleanText(code);
-        CodeEntry entry;
-        if (readCodeEntry(code, entry) && !entry.bytes.empty()) {
-            result.stopAddress = entry.address;
-            break;
-        }
-    }
-    return result;
+    return std::nullopt;
 }
 
 }  // namespace korvex::wizards::testing
