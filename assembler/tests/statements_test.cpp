@@ -107,7 +107,7 @@ TEST_F(StatementsTest, ExpressionsAndNotations) {
         {"MOV A,#111111111B", "00 00", 1},
         {"LJMP 101B", "02 00 0C", 0},  // the label context adds 7
         {"MOV A,#HIGH(1234H)", "74 12", 0},
-        {"MOV A,#HIGH(ACC)", "74 E0", 0},  // a register name is its address whole
+        {"MOV A,#HIGH(ACC)", "74 E0", 0},     // a register name is its address whole
         {"MOV A,#LOW(1234H+1)", "00 00", 7},  // the operator split comes first
         {"MOV A,#LOW(1234H)+1", "74 35", 0},
         {"MOV A,#':'", "74 3A", 0},
@@ -123,8 +123,8 @@ TEST_F(StatementsTest, ExpressionsAndNotations) {
 
 TEST_F(StatementsTest, ContextsChooseTheTables) {
     ASSERT_EQ(assembleLines({"#BYTE CNT=30h", "#CONST LIMIT=300", "MOV A,CNT", "LJMP CNT",
-                             "SETB CNT", "MOV DPTR,#LIMIT", "MOV DPTR,#BEEFH", "ORG 100h", "CNT:",
-                             "BEEFH:", "MOV DPTR,#HIER+5"}),
+                             "SETB CNT", "MOV DPTR,#LIMIT", "MOV DPTR,#BEEFH", "ORG 100h",
+                             "CNT:", "BEEFH:", "MOV DPTR,#HIER+5"}),
               RunOutcome::Completed);
     EXPECT_EQ(bytesAt(2), "E5 30");     // bytes before labels
     EXPECT_EQ(bytesAt(3), "02 01 00");  // labels first
@@ -154,8 +154,8 @@ TEST_F(StatementsTest, ValuesThatCannotBeStoredEndTheRun) {
 
 TEST_F(StatementsTest, BranchesAndTheirReach) {
     // 128 bytes ahead of the next statement is one too far.
-    ASSERT_EQ(assembleLines({"SJMP 130", "SJMP 131", "ORG 07FEh", "AJMP 0801h", "ORG 0FFDh",
-                             "AJMP 1001h"}),
+    ASSERT_EQ(assembleLines(
+                  {"SJMP 130", "SJMP 131", "ORG 07FEh", "AJMP 0801h", "ORG 0FFDh", "AJMP 1001h"}),
               RunOutcome::Completed);
     EXPECT_EQ(bytesAt(0), "80 00");
     EXPECT_EQ(findingAt(0), 21);
@@ -164,9 +164,9 @@ TEST_F(StatementsTest, BranchesAndTheirReach) {
     EXPECT_EQ(findingAt(3), 0);
     EXPECT_EQ(findingAt(5), 5);
 
-    ASSERT_EQ(assembleLines({"LJMP LATER", "JNZ LATER", "NOP", "LATER:", "SJMP LATER",
-                             "LJMP NOWHERE"}),
-              RunOutcome::Completed);
+    ASSERT_EQ(
+        assembleLines({"LJMP LATER", "JNZ LATER", "NOP", "LATER:", "SJMP LATER", "LJMP NOWHERE"}),
+        RunOutcome::Completed);
     EXPECT_EQ(findings(), std::vector<std::string>{"1:7 ;>err6: unbekannter Befehl bzw. "
                                                    "Sprungziel nicht gefunden"});
     EXPECT_EQ(hexImage(), "02 00 06 70 01 00 80 FE 02 00 00");
@@ -174,9 +174,9 @@ TEST_F(StatementsTest, BranchesAndTheirReach) {
 
 TEST_F(StatementsTest, ImplicitCallLengthFollowsUseNotTheTarget) {
     // A call without mnemonic to a later label: ACALL form, two bytes in both passes.
-    ASSERT_EQ(assembleLines({"TimerInit", "NOP", "TIMERINIT:", "Init Timer", "INITTIMER:",
-                             "Missing"}),
-              RunOutcome::Completed);
+    ASSERT_EQ(
+        assembleLines({"TimerInit", "NOP", "TIMERINIT:", "Init Timer", "INITTIMER:", "Missing"}),
+        RunOutcome::Completed);
     EXPECT_EQ(hexImage(), "11 03 00 11 05 00 00");
     EXPECT_EQ(findings(), std::vector<std::string>{"1:7 ;>err6: unbekannter Befehl bzw. "
                                                    "Sprungziel nicht gefunden"});
@@ -196,8 +196,8 @@ TEST_F(StatementsTest, OrgMovesTheCounterAndWarnsBackwards) {
 }
 
 TEST_F(StatementsTest, LinesLabelsAndVectors) {
-    ASSERT_EQ(assembleLines({";", "", "  NOP ; a: b", "NOP : NOP", "START:", "  START2 :",
-                             "Loop1:", "LOOP1:", "AB C:", ":", "NOP"}),
+    ASSERT_EQ(assembleLines({";", "", "  NOP ; a: b", "NOP : NOP",
+                             "START:", "  START2 :", "Loop1:", "LOOP1:", "AB C:", ":", "NOP"}),
               RunOutcome::Completed);
     EXPECT_EQ(bytesAt(2), "00");  // the colon behind ";" is not seen
     EXPECT_EQ(bytesAt(3), "00 00");
