@@ -24,7 +24,9 @@ bool contains(const std::string& text, const std::string& part) {
 
 class ProgramsTest : public ::testing::Test {
   protected:
-    ProgramsTest() { write("chip.cpu", "VECTOR\r\n0000 RESET\r\nSFR\r\nE0 ACC\r\nBIT\r\nD7 CY\r\n"); }
+    ProgramsTest() {
+        write("chip.cpu", "VECTOR\r\n0000 RESET\r\nSFR\r\nE0 ACC\r\nBIT\r\nD7 CY\r\n");
+    }
     std::string write(const std::string& name, const std::string& bytes) const {
         return folder_.write(name, bytes);
     }
@@ -145,8 +147,8 @@ TEST_F(ProgramsTest, DisassemblerPrintsInTheTerminalsEncodingAndWritesWindows125
 }
 
 TEST_F(ProgramsTest, WizardPrintsOrWritesTheProgramAndScriptsItsQuestions) {
-    ProcessResult r = run(KORVEX_WIZARD, "52 --date 1.1.2027 --set 'ICheck1(1)=1' --set ICheck0=1",
-                          false);
+    ProcessResult r =
+        run(KORVEX_WIZARD, "52 --date 1.1.2027 --set 'ICheck1(1)=1' --set ICheck0=1", false);
     EXPECT_EQ(r.exitCode, 0);
     EXPECT_EQ(r.output.rfind("; 1.1.2027\n\n#cpu = 80C32\t; @12 MHz\n", 0), 0u) << r.output;
     EXPECT_TRUE(contains(r.output, "Timer 0:\t; Timer 0 Interrupt\najmp Timer 0 Interrupt\n"));
@@ -203,7 +205,9 @@ TEST_F(ProgramsTest, HelpExitsCleanAndWrongCallsGive64) {
         std::vector<std::string> wrongCalls;
     } programs[] = {
         {KORVEX_ASM, "Aufruf: korvex-asm", {"", "--bogus x.a51", "a.a51 b.a51"}},
-        {KORVEX_DISASM, "Aufruf: korvex-disasm", {"", "a.bin b.bin", "x.bin -o", "x.bin --controller"}},
+        {KORVEX_DISASM,
+         "Aufruf: korvex-disasm",
+         {"", "a.bin b.bin", "x.bin -o", "x.bin --controller"}},
         {KORVEX_WIZARD,
          "Aufruf: korvex-wizard CHIP",
          {"", "51", "52 --bogus", "52 --set SCheck1", "52 --set Nichts=1", "52 --set SCheck1=7",

@@ -44,13 +44,13 @@ TEST_F(ProgramFolderTest, OrderOfTheSourcesAndReadingCreatesNoFolder) {
     fs::remove(root + "prefix/share/korvex/8051.cpu");
     EXPECT_EQ(resolveProgramFolder(sources), root + "home/.local/share/korvex/");
     EXPECT_TRUE(emptyHome());
+    // No home at all never means a folder below the root; a missing home stays so.
+    sources.homeFolder.clear();
+    EXPECT_EQ(resolveProgramFolder(sources), root + "prefix/share/korvex/");
     write("prefix/share/korvex/8051.cpu");
-    // A home that does not exist stays so; no home at all never means a folder below the root.
     sources.homeFolder = root + "nonexistent/home";
     EXPECT_EQ(resolveProgramFolder(sources), root + "prefix/share/korvex/");
     EXPECT_FALSE(fs::exists(root + "nonexistent"));
-    sources.homeFolder.clear();
-    EXPECT_EQ(resolveProgramFolder(sources), root + "prefix/share/korvex/");
 
     sources.homeFolder = root + "home";
     write("home/.local/share/korvex/8051.cpu");

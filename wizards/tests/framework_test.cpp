@@ -46,6 +46,7 @@ TEST_F(CountingFixture, OpeningGivesTheLoadTimeSettingsOnceAndChangesGenerateOnc
     EXPECT_EQ(generations_, 1);
     const auto& s = wizard_.settings();
     EXPECT_EQ(wizard_.tabNames().size(), 6u);
+    EXPECT_EQ(wizard_.selectedTab(), 0);
     EXPECT_EQ(s.UCombo3.text, "2400");
     EXPECT_FALSE(s.UCombo4.visible);
     EXPECT_FALSE(s.UFrame1.enabled || s.UCombo1.enabled || s.UCheck3.enabled || s.UCheck4.enabled);
@@ -274,12 +275,12 @@ TEST_F(WizardCommands, ObserverHearsWhatTheActionChangedAndNothingElse) {
     ASSERT_EQ(recorder.changes.size(), 1u);
     std::map<std::string, std::uint8_t> changed;
     for (const ControlChange& change : recorder.changes[0]) changed[change.key] = change.aspects;
-    EXPECT_EQ(changed, (std::map<std::string, std::uint8_t>{
-                           {"T1Combo1", AspectValue},
-                           {"T1Check2", AspectValue | AspectEnabled},
-                           {"T0Check3", AspectValue},
-                           {"T1Command1", AspectEnabled},
-                           {"T1Text3", AspectValue}}));
+    EXPECT_EQ(changed,
+              (std::map<std::string, std::uint8_t>{{"T1Combo1", AspectValue},
+                                                   {"T1Check2", AspectValue | AspectEnabled},
+                                                   {"T0Check3", AspectValue},
+                                                   {"T1Command1", AspectEnabled},
+                                                   {"T1Text3", AspectValue}}));
     EXPECT_EQ(recorder.previews, std::vector<std::string>{program()});
 
     set("T1Combo1", "3");  // the same again: nothing to tell

@@ -21,8 +21,9 @@ TEST_F(TimerAndSerialInterlocks, TimerForOtherWorkWhileItTimesThePortAsksFirst) 
     ASSERT_EQ(host_.boxes.size(), 1u);
     EXPECT_EQ(host_.boxes[0].kind, Kind::Question);
     EXPECT_EQ(host_.boxes[0].title, "Konflikt");
-    EXPECT_EQ(toUtf8(host_.boxes[0].text), "Timer 1 wird bereits als Baudratengenerator verwendet. "
-                                           "Möchten Sie diese Zuordnung aufheben?");
+    EXPECT_EQ(toUtf8(host_.boxes[0].text),
+              "Timer 1 wird bereits als Baudratengenerator verwendet. "
+              "Möchten Sie diese Zuordnung aufheben?");
     EXPECT_EQ(s().T1Check0.value, 0);
     EXPECT_EQ(program(), before);
     EXPECT_FALSE(s().T1Combo1.enabled);
@@ -128,14 +129,15 @@ TEST_F(TimerAndSerialInterlocks, GeneratorListsPairTimer2AndShowTheSecondRate) {
 
 TEST_F(TimerAndSerialInterlocks, Timer0Mode3SharesTimer1) {
     apply({"T1Check0=1", "T0Combo1=3"});
-    EXPECT_EQ(boxTexts(Kind::Note),
-              std::vector<std::string>{
-                  "Beachten Sie:\r\nTimer 1 wird bereits für andere Zwecke verwendet. Sie erzeugen "
-                  "in Modus 3 mit dem High-Byte des Timer 0 einen neuen Timer 1.\r\nDer Timer 1 "
-                  "Interrupt wird durch Überlauf des High-Bytes von Timer 0 ausgelöst und steht für "
-                  "den eigentlichen Timer 1 nicht mehr zur Verfügung.\r\nDas Bit TR1 startet das "
-                  "Hygh-Byte von Timer 0 und den eigentlichen Timer 1.\r\nTimer 1 kann nur durch "
-                  "Versetzen in den Modus 3 gestoppt werden."});
+    EXPECT_EQ(
+        boxTexts(Kind::Note),
+        std::vector<std::string>{
+            "Beachten Sie:\r\nTimer 1 wird bereits für andere Zwecke verwendet. Sie erzeugen "
+            "in Modus 3 mit dem High-Byte des Timer 0 einen neuen Timer 1.\r\nDer Timer 1 "
+            "Interrupt wird durch Überlauf des High-Bytes von Timer 0 ausgelöst und steht für "
+            "den eigentlichen Timer 1 nicht mehr zur Verfügung.\r\nDas Bit TR1 startet das "
+            "Hygh-Byte von Timer 0 und den eigentlichen Timer 1.\r\nTimer 1 kann nur durch "
+            "Versetzen in den Modus 3 gestoppt werden."});
     EXPECT_EQ(s().T0Label3.caption, "Timer 1");
     EXPECT_TRUE(s().T0Check3.visible);
     // The other order gives the other note.
