@@ -1,5 +1,6 @@
 #include "assembler_fixture.h"
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "assembler/source_file.h"
@@ -8,13 +9,13 @@
 
 namespace korvex::testing {
 
-const char* const kTestDriver =
+namespace {
+
+constexpr const char* kTestDriver =
     "; Testtreiber\r\n"
     "VECTOR\r\n0000 RESET\r\n0003 EXTI0\r\n000B TIMER0\r\n"
     "SFR\r\n81 SP\r\n90 P1\r\n88 TCON\r\n87 PCON\r\nD0 PSW\r\nE0 ACC\r\nF0 B\r\n"
     "BIT\r\n8E TR1\r\n8C TR0\r\nD7 CY\r\n";
-
-namespace {
 
 std::vector<std::string> crLfLines(const std::string& text) {
     std::vector<std::string> lines;
@@ -38,24 +39,22 @@ std::vector<ListedRow> listedRows(const std::string& listing) {
     // The header, then one line per row up to the empty line before the report.
     for (std::size_t i = 1; i < lines.size() && !lines[i].empty(); ++i) {
         ListedRow row;
-        std::vector<std::string> code;
         std::size_t from = 0;
-        for (std::size_t tab; (tab = lines[i].find('\t', from)) != std::string::npos;) {
-            const std::string field = lines[i].substr(from, tab - from);
+        for (std::size_t tab, field = 0; (tab = lines[i].find('\t', from)) != std::string::npos;
+             ++field) {
+            const std::string text = lines[i].substr(from, tab - from);
             from = tab + 1;
-            if (field.find(':') != std::string::npos) {
-                row.position = field;
+            if (text.find(':') != std::string::npos) {
+                row.position = text;
                 break;
             }
-            code.push_back(field);
+            if (field == 0) row.address = text;
+            if (field > 0 && !cleaned(text).empty()) {
+                row.bytes += (row.bytes.empty() ? "" : " ") + cleaned(text);
+            }
         }
         row.source = lines[i].substr(from);
         if (row.position.empty() && !rows.empty()) row.position = rows.back().position;
-        if (!code.empty()) row.address = code[0];
-        for (std::size_t k = 1; k < code.size(); ++k) {
-            const std::string bytes = cleaned(code[k]);
-            if (!bytes.empty()) row.bytes += (row.bytes.empty() ? "" : " ") + bytes;
-        }
         rows.push_back(row);
     }
     return rows;
@@ -136,39 +135,40 @@ RunOutcome AssemblerFixture::assembleLines(const std::vector<std::string>& lines
     return outcome;
 }
 
+std::vector<ListedRow> AssemblerFixture::rowsAt(int line) const {
+    const std::string position = "1:" + std::to_string(line + lineOffset_);
+    std::vector<ListedRow> rows = listedRows(readFile("prog.l51"));
+    std::erase_if(rows, [&](const ListedRow& row) { return row.position != position; });
+    return rows;
+}
+
 int AssemblerFixture::findingAt(int line) const {
-    const std::string at = position(line) + " ;>err";
+    const std::string at = "1:" + std::to_string(line + lineOffset_) + " ;>err";
     for (const std::string& finding : findings()) {
-        if (!startsWith(finding, at)) continue;
-        const std::string number = finding.substr(at.size());
-        return static_cast<int>(parseDecimal(number.substr(0, number.find_first_of(": "))));
+        if (startsWith(finding, at)) return std::atoi(finding.c_str() + at.size());
     }
     return 0;
 }
 
 std::string AssemblerFixture::bytesAt(int line) const {
     std::string out;
-    for (const ListedRow& row : listedRows(readFile("prog.l51"))) {
-        if (row.position == position(line) && !row.bytes.empty()) {
-            out += (out.empty() ? "" : " ") + row.bytes;
-        }
+    for (const ListedRow& row : rowsAt(line)) {
+        if (!row.bytes.empty()) out += (out.empty() ? "" : " ") + row.bytes;
     }
     return out;
 }
 
 std::string AssemblerFixture::addressAt(int line) const {
-    for (const ListedRow& row : listedRows(readFile("prog.l51"))) {
-        if (row.position == position(line)) return row.address;
-    }
-    return "-";
+    const auto rows = rowsAt(line);
+    return rows.empty() ? "-" : rows.front().address;
 }
 
 std::string AssemblerFixture::symbol(const std::string& name) const {
     const std::string quoted = "\"" + name + "\",";
     for (std::string line : crLfLines(readFile("prog.s51"))) {
         if (!startsWith(line, quoted)) continue;
-        line.pop_back();
-        return line.substr(line.rfind('"') + 1);
+        const std::size_t open = line.rfind('"', line.size() - 2);
+        return line.substr(open + 1, line.size() - open - 2);
     }
     return "-";
 }

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,39 +12,24 @@
 
 namespace korvex::testing {
 
-// A small driver that every test source reads first: a run needs at least one
-// vector to get its report.
-extern const char* const kTestDriver;
-
 inline constexpr OutputSwitches kAllOutputs{true, true, true, true};
 
-// One row of a listing: its address and bytes ("74 05"), where it came from
-// ("1:3"; a row a structure added takes the place of the row before it) and
-// its source text.
+// A listing row: address, bytes ("74 05"), position ("1:3"; a row a structure
+// added takes the place of the row before it) and source text.
 struct ListedRow {
-    std::string address;
-    std::string bytes;
-    std::string position;
-    std::string source;
+    std::string address, bytes, position, source;
 };
 std::vector<ListedRow> listedRows(const std::string& listing);
-
 // The findings of a report as "position marker", e.g. "1:3 ;>err6: ...".
 std::vector<std::string> reportFindings(const std::string& report);
-
-// Bytes as hexadecimal text "74 05".
-std::string hexBytes(const std::string& bytes);
+std::string hexBytes(const std::string& bytes);  // "74 05"
 
 // A run of `source` as "quelle.a51" in `folder` with every output switched on:
 // `programFolder` holds the drivers, includes are looked up in `folder`.
 struct AssembledSource {
     RunOutcome outcome = RunOutcome::Failed;
-    std::string report;
     std::vector<std::string> findings;
-    std::string image;
-    std::string hexText;
-    std::string listing;
-    std::string boxText;  // the last message box
+    std::string report, image, hexText, listing, boxText;
 };
 AssembledSource assembleText(const std::string& source, const std::string& programFolder,
                              const std::string& folder);
@@ -55,26 +39,22 @@ class AssemblerFixture : public ::testing::Test {
     void SetUp() override;
     void TearDown() override;
 
-    // Writes `source` as the temporary file and runs it as "prog.a51". Line
-    // indexes of the accessors below count from the source's first line.
+    // Writes `source` as the temporary file and runs it as "prog.a51"; line
+    // indexes below count from the source's first line.
     RunOutcome assemble(const std::string& source, OutputSwitches switches = kAllOutputs);
-    // Runs "#cpu test" followed by the lines, joined with CR LF. Line indexes
-    // then count from the first of `lines`.
+    // Runs "#cpu test" (a small driver with three vectors) and the lines; line
+    // indexes below count from the first of `lines`.
     RunOutcome assembleLines(const std::vector<std::string>& lines,
                              OutputSwitches switches = kAllOutputs);
 
     std::string image() const { return readFile("prog.b51"); }
     std::string hexImage() const { return hexBytes(image()); }
-    // The report of the last completed run, as the compile dialog shows it.
     const std::string& report() const { return host_.dialogText; }
     std::vector<std::string> findings() const { return reportFindings(report()); }
-    // The finding's number on a line (0 when it has none).
-    int findingAt(int line) const;
-    // The listed bytes and address of the rows of a line.
-    std::string bytesAt(int line) const;
-    std::string addressAt(int line) const;
-    // The value the symbol file gives a name, "-" when it has none.
-    std::string symbol(const std::string& name) const;
+    int findingAt(int line) const;                      // the finding's number, 0 for none
+    std::string bytesAt(int line) const;                // of all rows of the line
+    std::string addressAt(int line) const;              // of its first row, "-" for none
+    std::string symbol(const std::string& name) const;  // its value in the symbol file, or "-"
 
     void writeFile(const std::string& name, const std::string& bytes) const;
     std::string readFile(const std::string& name) const;
@@ -85,7 +65,7 @@ class AssemblerFixture : public ::testing::Test {
     std::unique_ptr<Assembler> assembler_;
 
   private:
-    std::string position(int line) const { return "1:" + std::to_string(line + lineOffset_); }
+    std::vector<ListedRow> rowsAt(int line) const;
 };
 
 }  // namespace korvex::testing
