@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "base/cp1252.h"
-#include "program_assembly.h"
 #include "wizard_fixture.h"
 
 namespace korvex::wizards::testing {
