@@ -173,20 +173,22 @@ TEST_F(FileSafetyTest, RunsSideBySideReadTheRepairedIncludeWhole) {
     EXPECT_EQ(readFileBytes(folder_ + "teil.a51").find("\r\r"), std::string::npos);
 }
 
-TEST_F(FileSafetyTest, RunsThatDoNothingSayWhy) {
-    Result r = shell(asm_(write("teil.a51", "NOP\r\n#part of haupt.a51")));
-    EXPECT_EQ(r.exitCode, 2);
-    EXPECT_TRUE(contains(r, "fehlt das Zeilenende")) << r.output;
-
-    r = shell(asm_(write("ohne.a51", "NOP\r\n")));
-    EXPECT_TRUE(contains(r, "keinen Treiber mit #cpu")) << r.output;
-    r = shell(asm_(write("bom.a51", "\xEF\xBB\xBF#cpu testchip\r\nNOP\r\n")));
-    EXPECT_TRUE(contains(r, "UTF-8-Kennung")) << r.output;
-    r = shell(asm_(write("breit.a51", std::string("\xFF\xFE#\0c\0p\0u\0", 10))));
-    EXPECT_TRUE(contains(r, "UTF-16")) << r.output;
-}
-
-TEST_F(FileSafetyTest, AStatementThatChangesItsLengthIsNotPassedInSilence) {
+TEST_F(FileSafetyTest, RunsThatDoNothingOrFailSayWhyAndWriteNothing) {
+    const std::pair<std::string, const char*> runs[] = {
+        {"NOP\r\n#part of haupt.a51", "fehlt das Zeilenende"},
+        {"#part of missing.a51\r\nNOP\r\n", "Kann Projektdatei missing.a51 nicht finden."},
+        {"", "leer"},
+        // No driver: no vector and so no report.
+        {"NOP\r\n", "keinen Treiber mit #cpu"},
+        {"\xEF\xBB\xBF#cpu testchip\r\nNOP\r\n", "UTF-8-Kennung"},
+        {std::string("\xFF\xFE#\0c\0p\0u\0", 10), "UTF-16"}};
+    for (const auto& [source, words] : runs) {
+        const Result r = shell(asm_("--all " + write("lauf.a51", source)));
+        EXPECT_EQ(r.exitCode, 2) << r.output;
+        EXPECT_TRUE(contains(r, words)) << r.output;
+        EXPECT_FALSE(fs::exists(folder_ + "lauf.l51") || fs::exists(folder_ + "lauf.h51"));
+    }
+    // A statement that changes its length is not passed in silence.
     const Result r = shell(asm_(write("vor.a51", "#cpu testchip\r\nmov 30h,#K\r\n#const K=5\r\n")));
     EXPECT_EQ(r.exitCode, 1) << r.output;
     EXPECT_TRUE(contains(r, "vor.a51 Zeile 2")) << r.output;

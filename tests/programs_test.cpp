@@ -67,18 +67,6 @@ TEST_F(ProgramsTest, AssemblerOutputsAndExitCodes) {
         << r.output;
     EXPECT_EQ(read("bad.b51"), std::string("\x00\x80\x00", 3));
 
-    // A run-time failure writes nothing.
-    const std::pair<const char*, const char*> failures[] = {
-        {"", "leer"},
-        {"#part of missing.a51\r\nNOP\r\n", "Kann Projektdatei missing.a51 nicht finden."},
-        {"NOP\r\n", "Typen unverträglich"}};  // no driver: no vector and so no report
-    for (const auto& [source, words] : failures) {
-        r = assemble("--all " + write("fail.a51", source));
-        EXPECT_EQ(r.exitCode, 2) << source;
-        EXPECT_TRUE(contains(r.output, words)) << r.output;
-        EXPECT_FALSE(exists("fail.l51") || exists("fail.h51"));
-    }
-
     // A member of a project compiles the project.
     write("main.a51", "#cpu chip\r\n#include part.a51\r\nRET\r\n");
     ASSERT_EQ(assemble("--bin " + write("part.a51", "; #PART OF main.a51\r\nNOP\r\n")).exitCode, 0);
