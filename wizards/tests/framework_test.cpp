@@ -19,29 +19,12 @@ using WizardCommands = WizardFixture;
 using FieldRepairs = WizardFixture;
 using Kind = ScriptedWizardHost::Kind;
 
-// Counts generations: each one asks once for the date.
-class CountingFixture : public ::testing::Test {
-  protected:
-    CountingFixture() : wizard_(host_, options()) { wizard_.openWizard(); }
-    WizardOptions options() {
-        WizardOptions o;
-        o.now = [this] {
-            ++generations_;
-            return std::string(kFixedDate);
-        };
-        return o;
-    }
-    int generationsOf(const std::function<void()>& action) {
+TEST_F(WizardCommands, OpeningGivesTheLoadTimeSettingsOnceAndChangesGenerateOnce) {
+    const auto generationsOf = [this](const std::function<void()>& action) {
         const int before = generations_;
         action();
         return generations_ - before;
-    }
-    int generations_ = 0;
-    ScriptedWizardHost host_;
-    assistent52::Assistent52 wizard_;
-};
-
-TEST_F(CountingFixture, OpeningGivesTheLoadTimeSettingsOnceAndChangesGenerateOnce) {
+    };
     EXPECT_EQ(generations_, 1);
     const auto& s = wizard_.settings();
     EXPECT_EQ(wizard_.tabNames().size(), 6u);

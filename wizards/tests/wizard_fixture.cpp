@@ -7,10 +7,14 @@
 namespace korvex::wizards::testing {
 namespace {
 
-WizardOptions fixedOptions() {
+// Each generation asks once for the date.
+WizardOptions fixedOptions(int* generations) {
     WizardOptions options;
     options.numberFormat.decimalMark = ',';
-    options.now = [] { return std::string(kFixedDate); };
+    options.now = [generations] {
+        ++*generations;
+        return std::string(kFixedDate);
+    };
     return options;
 }
 
@@ -25,7 +29,7 @@ void split(const std::string& control, std::string& name, int& index) {
 
 }  // namespace
 
-WizardFixture::WizardFixture() : wizard_(host_, fixedOptions()) {
+WizardFixture::WizardFixture() : wizard_(host_, fixedOptions(&generations_)) {
     wizard_.openWizard();
 }
 

@@ -38,6 +38,7 @@ class WizardFixture : public ::testing::Test {
 
     assistent52::WizardSettings& s() { return wizard_.settings(); }
 
+    int generations_ = 0;
     ScriptedWizardHost host_;
     assistent52::Assistent52 wizard_;
 };
