@@ -195,7 +195,7 @@ TEST_F(ProgramsTest, HelpExitsCleanAndWrongCallsGive64) {
         {KORVEX_ASM, "Aufruf: korvex-asm", {"", "--bogus x.a51", "a.a51 b.a51"}},
         {KORVEX_DISASM,
          "Aufruf: korvex-disasm",
-         {"", "a.bin b.bin", "x.bin -o", "x.bin --controller"}},
+         {"", "--bogus x.bin", "a.bin b.bin", "x.bin -o", "x.bin --controller"}},
         {KORVEX_WIZARD,
          "Aufruf: korvex-wizard CHIP",
          {"", "51", "52 --bogus", "52 --set SCheck1", "52 --set Nichts=1", "52 --set SCheck1=7",
