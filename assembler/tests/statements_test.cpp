@@ -26,7 +26,8 @@ class StatementsTest : public AssemblerFixture {
     }
 };
 
-TEST_F(StatementsTest, FaultyOperandsKeepTheirPlaceAndReportTheLaterCheck) {
+// Faulty operands keep their place and report the later check.
+TEST_F(StatementsTest, EachStatementAloneGivesItsBytesAndFinding) {
     expectAll({
         {"MOV A,#256", "74 00", 31},
         {"MOV 300,#400", "75 2C 90", 4},
@@ -43,11 +44,7 @@ TEST_F(StatementsTest, FaultyOperandsKeepTheirPlaceAndReportTheLaterCheck) {
         {"NOP 1", "00", 1},
         {"END X", "80 FE", 32},
         {"MOV,A 5", "", 32},  // a comma before the first blank
-    });
-}
-
-TEST_F(StatementsTest, FormsOfOurOwnLanguage) {
-    expectAll({
+        // Forms of our own language.
         {"CALL @A+DPTR", "73", 0},
         {"JMP 1234h", "02 12 34", 0},
         {"CALL 1234h", "12 12 34", 0},
@@ -56,33 +53,16 @@ TEST_F(StatementsTest, FormsOfOurOwnLanguage) {
         {"a=#1", "74 01", 0},
         {"r0 = #3", "78 03", 0},
         {"30h = 31h", "85 31 30", 0},
-    });
-}
-
-// An unknown bit name: the bit operand reader leaves the bit context's 8 in
-// the value, and every user that stores the value before its class check
-// stores 08h with its finding.
-TEST_F(StatementsTest, BitOperands) {
-    expectAll({
+        // An unknown bit name: the bit operand reader leaves the bit context's
+        // 8 in the value, and every user that stores the value before its
+        // class check stores 08h with its finding.
         {"CPL 101B", "B2 0D", 0},  // the bit context adds 8 to a binary literal
         {"SETB 20h.8", "D2 00", 8},
         {"SETB 30h.1", "D2 00", 8},
         {"SETB XYZ", "D2 08", 8},
         {"ANL C,/XYZ", "B0 08", 8},
         {"CLR 0.3333333333", "C2 00", 8},
-    });
-    ASSERT_EQ(assembleLines({"SETB later", "later: NOP"}), RunOutcome::Completed);
-    EXPECT_EQ(bytesAt(0), "D2 08");  // labels don't evaluate in the bit context
-    ASSERT_EQ(assembleLines({"#BIT F=XYZ", "SETB F", "IF BIT XYZ", "NOP", "END IF"}),
-              RunOutcome::Completed);
-    EXPECT_EQ(findingAt(0), 50);
-    EXPECT_EQ(bytesAt(1), "D2 08");
-    // The second pass encodes the IF again, so its offset is the unpatched 00.
-    EXPECT_EQ(bytesAt(2), "30 08 00");
-}
-
-TEST_F(StatementsTest, ExpressionsAndNotations) {
-    expectAll({
+        // Expressions and notations.
         {"MOV A,#10-4-3", "74 03", 0},
         {"MOV A,#0-1", "74 FF", 0},  // subtraction is byte-oriented once
         {"MOV A,#", "00 00", 1},
@@ -119,6 +99,15 @@ TEST_F(StatementsTest, ContextsChooseTheTables) {
     EXPECT_EQ(bytesAt(5), "90 01 2C");
     EXPECT_EQ(bytesAt(6), "90 BE EF");  // numbers shadow names
     EXPECT_EQ(bytesAt(10), "90 01 05");
+
+    ASSERT_EQ(assembleLines({"SETB later", "#BIT F=XYZ", "SETB F", "IF BIT XYZ", "NOP", "END IF",
+                             "later: NOP"}),
+              RunOutcome::Completed);
+    EXPECT_EQ(bytesAt(0), "D2 08");  // labels don't evaluate in the bit context
+    EXPECT_EQ(findingAt(1), 50);
+    EXPECT_EQ(bytesAt(2), "D2 08");
+    // The second pass encodes the IF again, so its offset is the unpatched 00.
+    EXPECT_EQ(bytesAt(3), "30 08 00");
 }
 
 TEST_F(StatementsTest, ValuesThatCannotBeStoredEndTheRun) {

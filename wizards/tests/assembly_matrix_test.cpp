@@ -1,7 +1,8 @@
 // Every program the wizard writes must assemble without a finding with the
 // shipped 80C32 driver: a broad walk over serial modes and generator
 // pairings, timer modes as timer and counter with gate, the Timer 2
-// functions, interrupts and priorities, RAM clearing, stack and banks.
+// functions, interrupts and priorities, RAM clearing, stack and banks. The
+// programs the simulator runs are not repeated here.
 
 #include <gtest/gtest.h>
 
@@ -24,16 +25,11 @@ std::vector<Case> matrix() {
         {"SystemAll",
          {"SText2=30", "SCheck1=1", "SText3=20", "SText4=7F", "SCombo1=1", "SCheck2=1",
           "SText5=Prüfstand, Förderband"}},
-        {"StackA", {"SText2=0A"}},
         {"StackZero", {"SText2=00"}},
-        {"Bank2", {"SCombo1=2"}},
         {"Bank3RamFull", {"SCombo1=3", "SCheck1=1", "SText3=01", "SText4=FF"}},
-        {"Clock11", {"SText1=11,0592", "UCheck1=1", "UOption1=1", "UCombo3=9600"}},
         {"SerialMode0", {"UCheck1=1"}},
-        {"SerialMode1Timer1", {"UCheck1=1", "UOption1=1", "UCheck3=1"}},
         {"SerialMode1Doubled", {"UCheck1=1", "UOption1=1", "UCheck4=1", "UCombo3=19200"}},
         {"SerialMode1Slow", {"UCheck1=1", "UOption1=1", "UCombo3=110"}},
-        {"SerialReceiveT1SendT2", {"UCheck1=1", "UOption1=1", "UCombo2=1", "UCombo4=9600"}},
         {"SerialReceiveT2SendT1",
          {"UCheck1=1", "UOption1=3", "UCombo1=1", "UCombo4=4800", "UCheck3=1"}},
         {"SerialBothT2", {"UCheck1=1", "UOption1=1", "UCombo1=1", "UCombo2=1", "UCombo3=28800"}},
@@ -48,7 +44,6 @@ std::vector<Case> matrix() {
         {"AllInterrupts",
          {"ICheck1(0)=1", "ICheck1(1)=1", "ICheck1(2)=1", "ICheck1(3)=1", "ICheck1(5)=1",
           "ICheck2(0)=1", "ICheck2(2)=1", "ICheck2(5)=1", "IOption1=1", "IOption2=1", "ICheck0=1"}},
-        {"PriorityOnly", {"ICheck2(3)=1"}},
         {"LevelTriggers", {"ICheck1(0)=1", "ICheck1(2)=1"}},
         {"Everything",
          {"SText2=40", "SCheck1=1", "SCombo1=1", "UCheck1=1", "UOption1=3", "UCombo1=1",
