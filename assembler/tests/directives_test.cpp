@@ -13,7 +13,7 @@ namespace {
 using DirectivesTest = AssemblerFixture;
 
 TEST_F(DirectivesTest, DriverFormsAndNames) {
-    for (const char* form : {"#cpu=test", "# cpu  test", "CPU test", "cpu=test"}) {
+    for (const char* form : {"#cpu=test", "#CPUtest", "# cpu  test", "CPU test", "cpu=test"}) {
         ASSERT_EQ(assemble(std::string(form) + "\r\nSETB TR1\r\nMOV A,P1\r\n"),
                   RunOutcome::Completed)
             << form;
