@@ -21,7 +21,8 @@ TEST_F(StatementText, NamesAndComments) {
             "\tanl 30h, #0Fh\t; 15d", "\tmov SP, 30h", "\tmov r0, P1", "\tclr TCON.3",
             "\tsetb 20h.7", "\tcpl 2Fh.7", "\tmov c, F9h", "\tanl c, /ACC7", "\tmov P1.5, c"}));
     // The routine itself gives the decimal comment, which no form shows.
-    const OperandNames names(readCpuDriverFile(path("test.cpu")).driver);
+    const DriverReading driver = readCpuDriverFile(path("test.cpu"));
+    const OperandNames names(driver.driver);  // keeps a reference to the driver
     std::string hex = "30", comment = "vorher";
     names.directName(hex, comment);
     EXPECT_EQ(hex + comment, "30h\t; 48d");
