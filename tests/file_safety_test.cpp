@@ -12,7 +12,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "base/program_folder.h"
 #include "testing/process.h"
 
 namespace {
@@ -24,10 +23,6 @@ using korvex::testing::readFileBytes;
 
 Result shell(const std::string& script) {
     return korvex::testing::runBash(script);
-}
-
-std::string readBytes(const std::string& path) {
-    return readFileBytes(path);
 }
 
 bool contains(const Result& r, const std::string& text) {
@@ -45,22 +40,20 @@ constexpr const char* kDiskFull = "ulimit -f 1; trap \"\" XFSZ; ";
 class FileSafetyTest : public ::testing::Test {
   protected:
     void SetUp() override {
-        folder_ = korvex::makePrivateTemporaryFolder();
         // Others may enter and read, not write: as a user's folder of sources looks to others.
         fs::permissions(folder_, fs::perms::owner_all | fs::perms::group_read |
                                      fs::perms::group_exec | fs::perms::others_read |
                                      fs::perms::others_exec);
         write("testchip.cpu", "VECTOR\r\n0000 RESET\r\nSFR\r\nE0 ACC\r\nBIT\r\nD7 CY\r\n");
     }
-    void TearDown() override { fs::remove_all(folder_); }
-    std::string write(const std::string& name, const std::string& text) {
-        std::ofstream(folder_ + name, std::ios::binary) << text;
-        return folder_ + name;
+    std::string write(const std::string& name, const std::string& text) const {
+        return scratch_.write(name, text);
     }
     std::string asm_(const std::string& arguments) const {
         return std::string(KORVEX_ASM) + " --program-folder " + folder_ + " " + arguments;
     }
-    std::string folder_;
+    korvex::testing::ScratchFolder scratch_;
+    const std::string& folder_ = scratch_.path();
 };
 
 TEST_F(FileSafetyTest, FilesThatCantBeReadFailInGermanNamingThem) {
@@ -103,7 +96,7 @@ TEST_F(FileSafetyTest, AFullDiskIsAFailureAndKeepsTheOldOutputs) {
     EXPECT_EQ(r.exitCode, 2) << r.output;
     EXPECT_TRUE(contains(r, folder_ + "prog.l51")) << r.output;
     for (const char* extension : {"l51", "h51", "b51", "s51"}) {
-        EXPECT_EQ(readBytes(folder_ + "prog." + extension), "alt") << extension;
+        EXPECT_EQ(readFileBytes(folder_ + "prog." + extension), "alt") << extension;
     }
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_), {}), 6);  // no temporaries
 
@@ -135,7 +128,7 @@ TEST_F(FileSafetyTest, NoSettingLetsAnOutputOverwriteTheSource) {
     EXPECT_EQ(r.exitCode, 0) << r.output;
     EXPECT_TRUE(contains(r, "korvex.cfg ist fehlerhaft") && contains(r, "Programmcode und Listing"))
         << r.output;
-    EXPECT_EQ(readBytes(source), text);
+    EXPECT_EQ(readFileBytes(source), text);
     EXPECT_TRUE(fs::exists(folder_ + "prog.l51"));
 
     // Commas alone leave no extension at all: the defaults hold.
@@ -149,7 +142,7 @@ TEST_F(FileSafetyTest, NoSettingLetsAnOutputOverwriteTheSource) {
     r = shell(asm_("--hex " + hexNamed));
     EXPECT_EQ(r.exitCode, 2);
     EXPECT_TRUE(contains(r, "nicht überschrieben")) << r.output;
-    EXPECT_EQ(readBytes(hexNamed), text);
+    EXPECT_EQ(readFileBytes(hexNamed), text);
 }
 
 TEST_F(FileSafetyTest, RunsSideBySideReadTheRepairedIncludeWhole) {
@@ -173,27 +166,29 @@ TEST_F(FileSafetyTest, RunsSideBySideReadTheRepairedIncludeWhole) {
         write("teil.a51", include);
         shell(script + "wait");
         for (int i = 0; i < kRuns; ++i) {
-            ASSERT_EQ(readBytes(folder_ + "haupt" + std::to_string(i) + ".b51"), expected)
+            ASSERT_EQ(readFileBytes(folder_ + "haupt" + std::to_string(i) + ".b51"), expected)
                 << "Runde " << round << ", Lauf " << i;
         }
     }
-    EXPECT_EQ(readBytes(folder_ + "teil.a51").find("\r\r"), std::string::npos);
+    EXPECT_EQ(readFileBytes(folder_ + "teil.a51").find("\r\r"), std::string::npos);
 }
 
-TEST_F(FileSafetyTest, RunsThatDoNothingSayWhy) {
-    Result r = shell(asm_(write("teil.a51", "NOP\r\n#part of haupt.a51")));
-    EXPECT_EQ(r.exitCode, 2);
-    EXPECT_TRUE(contains(r, "fehlt das Zeilenende")) << r.output;
-
-    r = shell(asm_(write("ohne.a51", "NOP\r\n")));
-    EXPECT_TRUE(contains(r, "keinen Treiber mit #cpu")) << r.output;
-    r = shell(asm_(write("bom.a51", "\xEF\xBB\xBF#cpu testchip\r\nNOP\r\n")));
-    EXPECT_TRUE(contains(r, "UTF-8-Kennung")) << r.output;
-    r = shell(asm_(write("breit.a51", std::string("\xFF\xFE#\0c\0p\0u\0", 10))));
-    EXPECT_TRUE(contains(r, "UTF-16")) << r.output;
-}
-
-TEST_F(FileSafetyTest, AStatementThatChangesItsLengthIsNotPassedInSilence) {
+TEST_F(FileSafetyTest, RunsThatDoNothingOrFailSayWhyAndWriteNothing) {
+    const std::pair<std::string, const char*> runs[] = {
+        {"NOP\r\n#part of haupt.a51", "fehlt das Zeilenende"},
+        {"#part of missing.a51\r\nNOP\r\n", "Kann Projektdatei missing.a51 nicht finden."},
+        {"", "leer"},
+        // No driver: no vector and so no report.
+        {"NOP\r\n", "keinen Treiber mit #cpu"},
+        {"\xEF\xBB\xBF#cpu testchip\r\nNOP\r\n", "UTF-8-Kennung"},
+        {std::string("\xFF\xFE#\0c\0p\0u\0", 10), "UTF-16"}};
+    for (const auto& [source, words] : runs) {
+        const Result r = shell(asm_("--all " + write("lauf.a51", source)));
+        EXPECT_EQ(r.exitCode, 2) << r.output;
+        EXPECT_TRUE(contains(r, words)) << r.output;
+        EXPECT_FALSE(fs::exists(folder_ + "lauf.l51") || fs::exists(folder_ + "lauf.h51"));
+    }
+    // A statement that changes its length is not passed in silence.
     const Result r = shell(asm_(write("vor.a51", "#cpu testchip\r\nmov 30h,#K\r\n#const K=5\r\n")));
     EXPECT_EQ(r.exitCode, 1) << r.output;
     EXPECT_TRUE(contains(r, "vor.a51 Zeile 2")) << r.output;

@@ -1,5 +1,6 @@
 #pragma once
-// Runs the assembler on a source text in a private folder, without a screen.
+// Runs the assembler on a source text in a private folder, without a screen,
+// and reads what a user gets: the report, the listing and the output files.
 
 #include <gtest/gtest.h>
 
@@ -9,65 +10,62 @@
 #include "assembler/assembler.h"
 #include "base/host.h"
 
-namespace korvex {
-
-// The tests' seam into the assembler: the evaluator, and the run state that a
-// single routine needs set up.
-class AssemblerProbe {
-  public:
-    explicit AssemblerProbe(Assembler& assembler) : assembler_(assembler) {}
-    RunState& state() { return assembler_.state_; }
-    void evaluateExpression(std::string& text, std::int32_t& value, bool& found) {
-        assembler_.evaluateExpression(text, value, found);
-    }
-
-  private:
-    Assembler& assembler_;
-};
-
-}  // namespace korvex
-
 namespace korvex::testing {
 
-// A small driver that every test source reads first: a run needs at least one
-// vector to get its report.
-extern const char* const kTestDriver;
+inline constexpr OutputSwitches kAllOutputs{true, true, true, true};
+
+// A listing row: address, bytes ("74 05"), position ("1:3"; a row a structure
+// added takes the place of the row before it) and source text.
+struct ListedRow {
+    std::string address, bytes, position, source;
+};
+std::vector<ListedRow> listedRows(const std::string& listing);
+// The findings of a report as "position marker", e.g. "1:3 ;>err6: ...".
+std::vector<std::string> reportFindings(const std::string& report);
+std::string hexBytes(const std::string& bytes);  // "74 05"
+
+// A run of `source` as "quelle.a51" in `folder` with every output switched on:
+// `programFolder` holds the drivers, includes are looked up in `folder`.
+struct AssembledSource {
+    RunOutcome outcome = RunOutcome::Failed;
+    std::vector<std::string> findings;
+    std::string report, image, hexText, listing, boxText;
+};
+AssembledSource assembleText(const std::string& source, const std::string& programFolder,
+                             const std::string& folder);
 
 class AssemblerFixture : public ::testing::Test {
   protected:
     void SetUp() override;
     void TearDown() override;
 
-    // Writes `source` as the temporary file and runs it as it stands.
-    RunOutcome assemble(const std::string& source, OutputSwitches switches = {});
-    // Runs "#cpu test" followed by the lines, joined with CR LF. Row numbers of
-    // the accessors below then count from the first of `lines`.
-    RunOutcome assembleLines(const std::vector<std::string>& lines, OutputSwitches switches = {});
+    // Writes `source` as the temporary file and runs it as "prog.a51"; line
+    // indexes below count from the source's first line.
+    RunOutcome assemble(const std::string& source, OutputSwitches switches = kAllOutputs);
+    // Runs "#cpu test" (a small driver with three vectors) and the lines; line
+    // indexes below count from the first of `lines`.
+    RunOutcome assembleLines(const std::vector<std::string>& lines,
+                             OutputSwitches switches = kAllOutputs);
 
-    // The cleaned code image of the last run, as the binary writer makes it.
-    std::string image() const;
-    // Bytes of the first row that emits code, as hexadecimal text "74 05".
-    std::string bytesOfRow(int row) const;
-    // A row's columns as the listing shows them.
-    struct RowColumns {
-        std::string marker, position, statement, sourceText;
-        bool retry = false;
-    };
-    RowColumns row(int index) const;
-    const std::string& code(int index) const;
-    // The marker number of a row (0 when clean).
-    int markerNumber(int row) const;
-    // Rows with a marker, as "position marker".
-    std::vector<std::string> markers() const;
+    std::string image() const { return readFile("prog.b51"); }
+    std::string hexImage() const { return hexBytes(image()); }
+    const std::string& report() const { return host_.dialogText; }
+    std::vector<std::string> findings() const { return reportFindings(report()); }
+    int findingAt(int line) const;                      // the finding's number, 0 for none
+    std::string bytesAt(int line) const;                // of all rows of the line
+    std::string addressAt(int line) const;              // of its first row, "-" for none
+    std::string symbol(const std::string& name) const;  // its value in the symbol file, or "-"
 
     void writeFile(const std::string& name, const std::string& bytes) const;
     std::string readFile(const std::string& name) const;
 
     std::string folder_;  // ends in "/"
-    int rowOffset_ = 0;
+    int lineOffset_ = 1;
     QuietHost host_;
     std::unique_ptr<Assembler> assembler_;
-    AssemblerProbe probe() { return AssemblerProbe(*assembler_); }
+
+  private:
+    std::vector<ListedRow> rowsAt(int line) const;
 };
 
 }  // namespace korvex::testing

@@ -18,17 +18,14 @@ class SimulatorTest : public AssemblerFixture {
     // internal RAM bytes asked for.
     std::map<int, int> runUntilStop(const std::vector<std::string>& lines,
                                     const std::vector<int>& addresses) {
-        EXPECT_EQ(assembleLines(lines, {false, true, false, false}), RunOutcome::Completed);
-        EXPECT_EQ(markers(), std::vector<std::string>{});
-        const auto& labels = assembler_->state().labelTable;
-        const int stop = labels.find("STOP");
-        EXPECT_GE(stop, 0);
-        if (stop < 0) return {};
+        EXPECT_EQ(assembleLines(lines), RunOutcome::Completed);
+        EXPECT_EQ(findings(), std::vector<std::string>{});
+        const std::string stop = symbol("STOP");
+        EXPECT_NE(stop, "-");
         std::vector<std::string> cells;
         for (int address : addresses) cells.push_back("iram:" + hexDigits(address, 2));
-        const auto values =
-            runInSimulator(readFile("prog.h51"),
-                           static_cast<std::int32_t>(parseDecimal(labels.at(stop, 1))), cells);
+        const auto values = runInSimulator(readFile("prog.h51"),
+                                           static_cast<std::int32_t>(parseHexPrefix(stop)), cells);
         std::map<int, int> memory;
         for (const auto& [cell, value] : values) {
             memory[static_cast<int>(parseHexPrefix(cell.substr(5)))] = value;

@@ -83,34 +83,26 @@ TEST_F(FilesTest, ReadFailuresTellMissingFromForbiddenAndNameTheFile) {
         70);
 }
 
-TEST_F(FilesTest, AFailedWriteLeavesTheOldFileAndNoTemporary) {
-    const std::string target = folder_ + "prog.h51";
-    std::ofstream(target) << "alt";
-    std::string file;
-    {
-        const DiskFullAfter full(16);
-        EXPECT_EQ(failureNumberOf([&] { writeWholeFile(target, std::string(4096, 'x')); }, &file),
-                  75);
-    }
-    EXPECT_EQ(file, target);
-    EXPECT_EQ(contents(target), "alt");
-    EXPECT_EQ(entries(), 1u);
-    EXPECT_EQ(failureNumberOf([&] { writeWholeFile(folder_ + "nix/prog.h51", "x"); }), 76);
-}
-
-TEST_F(FilesTest, ASetOfOutputsTakesItsNamesOnlyWhenAllAreWhole) {
+TEST_F(FilesTest, AFailedWriteLeavesTheOldFilesAndNoTemporary) {
     std::ofstream(folder_ + "prog.l51") << "altes Listing";
     std::ofstream(folder_ + "prog.h51") << "altes Hex";
+    std::string file;
     {
         const DiskFullAfter full(100);
+        EXPECT_EQ(failureNumberOf(
+                      [&] { writeWholeFile(folder_ + "prog.h51", std::string(4096, 'x')); }, &file),
+                  75);
+        // A set of outputs takes its names only when all are whole.
         FileSetWriter outputs;
         outputs.add(folder_ + "prog.l51", "neues Listing");
         EXPECT_EQ(
             failureNumberOf([&] { outputs.add(folder_ + "prog.h51", std::string(500, 'x')); }), 75);
     }
+    EXPECT_EQ(file, folder_ + "prog.h51");
     EXPECT_EQ(contents(folder_ + "prog.l51"), "altes Listing");
     EXPECT_EQ(contents(folder_ + "prog.h51"), "altes Hex");
     EXPECT_EQ(entries(), 2u);
+    EXPECT_EQ(failureNumberOf([&] { writeWholeFile(folder_ + "nix/prog.h51", "x"); }), 76);
 
     FileSetWriter outputs;
     outputs.add(folder_ + "prog.l51", "neu");

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 
-#include "assembler/code_image.h"
 #include "assembler/source_file.h"
 #include "base/program_folder.h"
 #include "base/text.h"
@@ -52,29 +51,10 @@ std::vector<std::string> DisassemblerFixture::statements(const std::string& cont
     return lines;
 }
 
-std::string DisassemblerFixture::assemble(const std::string& source,
-                                          std::vector<std::string>* findings,
-                                          const std::string& sourceFolder, std::string* hexText) {
-    QuietHost host;
-    AssemblerSettings settings;
-    settings.programFolder = settings.temporaryFolder = folder_;
-    Assembler assembler(host, settings);
-    writeWholeFile(folder_ + "TmpFile.tmp", source);
-    const std::string name = (sourceFolder.empty() ? folder_ : sourceFolder) + "roundtrip.a51";
-    EXPECT_EQ(assembler.assembleSource(name, {}), RunOutcome::Completed) << host.lastBoxText;
-    if (findings != nullptr) {
-        findings->clear();
-        const RunState& state = assembler.state();
-        for (const RowMarker& entry : state.markers) {
-            const auto index = entry.row;
-            const std::string marker(state.markerText(entry));
-            if (!marker.empty() && static_cast<std::size_t>(index) < state.sourceTable.size())
-                findings->push_back(
-                    std::string(state.statementOf(static_cast<std::size_t>(index))) + " " + marker);
-        }
-    }
-    if (hexText != nullptr) *hexText = hexFileText(assembler.state().codeText);
-    return binaryImage(assembler.state().codeText);
+AssembledSource DisassemblerFixture::assemble(const std::string& source) const {
+    AssembledSource result = assembleText(source, folder_, folder_);
+    EXPECT_EQ(result.outcome, RunOutcome::Completed) << result.boxText;
+    return result;
 }
 
 std::vector<std::string> splitLines(const std::string& text) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "assembler/assembler.h"
+#include "assembler_fixture.h"
 #include "base/host.h"
 #include "disassembler/disassembler.h"
 
@@ -31,10 +31,8 @@ class DisassemblerFixture : public ::testing::Test {
     // The statements of a completed run: Disas2.tmp without its header.
     std::vector<std::string> statements(const std::string& bytes);
 
-    // Assembles `source` (sources in `sourceFolder` can be included) and
-    // returns the code image; `findings` gets the rows with a marker.
-    std::string assemble(const std::string& source, std::vector<std::string>* findings = nullptr,
-                         const std::string& sourceFolder = "", std::string* hexText = nullptr);
+    // Assembles `source` in the folder, where the drivers lie and sources can be included.
+    AssembledSource assemble(const std::string& source) const;
 
     void useController(const std::string& name) { disassembler_->settings().controllerName = name; }
     std::string path(const std::string& name) const { return folder_ + name; }

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "base/cp1252.h"
-#include "program_assembly.h"
 #include "wizard_fixture.h"
 
 namespace korvex::wizards::testing {
@@ -79,13 +78,14 @@ TEST_P(SimulatorRun, RegistersHoldWhatTheSettingsSay) {
     apply(GetParam().settings);
     if (!GetParam().inputs.empty()) click("T0Command1");
     const bool serialLoop = s().ICheck1[4].value != 0;
-    const AssembledProgram assembled = assembleProgram(program(), serialLoop ? "LOOP" : "END");
-    ASSERT_TRUE(assembled.completed);
+    const AssembledSource assembled = assembleProgram(program());
+    ASSERT_EQ(assembled.outcome, RunOutcome::Completed);
     ASSERT_EQ(assembled.findings, std::vector<std::string>{});
-    ASSERT_TRUE(assembled.stopAddress.has_value()) << toUtf8(program());
+    const auto stop = stopAddress(assembled, serialLoop ? "LOOP" : "END");
+    ASSERT_TRUE(stop.has_value()) << toUtf8(program());
     std::vector<std::string> cells;
     for (const auto& [cell, value] : GetParam().expected) cells.push_back(cell);
-    const auto values = runInSimulator(assembled.hexText, *assembled.stopAddress, cells);
+    const auto values = runInSimulator(assembled.hexText, *stop, cells);
     EXPECT_EQ(values, GetParam().expected) << toUtf8(program());
 }
 

@@ -2,14 +2,19 @@
 
 #include "base/cp1252.h"
 #include "base/text.h"
+#include "testing/process.h"
 
 namespace korvex::wizards::testing {
 namespace {
 
-WizardOptions fixedOptions() {
+// Each generation asks once for the date.
+WizardOptions fixedOptions(int* generations) {
     WizardOptions options;
     options.numberFormat.decimalMark = ',';
-    options.now = [] { return std::string(kFixedDate); };
+    options.now = [generations] {
+        ++*generations;
+        return std::string(kFixedDate);
+    };
     return options;
 }
 
@@ -24,7 +29,7 @@ void split(const std::string& control, std::string& name, int& index) {
 
 }  // namespace
 
-WizardFixture::WizardFixture() : wizard_(host_, fixedOptions()) {
+WizardFixture::WizardFixture() : wizard_(host_, fixedOptions(&generations_)) {
     wizard_.openWizard();
 }
 
@@ -77,6 +82,27 @@ std::vector<std::string> WizardFixture::boxTexts(ScriptedWizardHost::Kind kind) 
         if (box.kind == kind) out.push_back(toUtf8(box.text));
     }
     return out;
+}
+
+AssembledSource assembleProgram(const std::string& program) {
+    const korvex::testing::ScratchFolder folder;
+    return korvex::testing::assembleText(program, std::string(KORVEX_DATA_DIR) + "/cpu/",
+                                         folder.path());
+}
+
+std::optional<std::int32_t> stopAddress(const AssembledSource& assembled,
+                                        const std::string& stopStatement) {
+    const auto rows = korvex::testing::listedRows(assembled.listing);
+    std::size_t stop = rows.size();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const std::string& source = rows[i].source;
+        if (cleaned(upperCase(source.substr(0, source.find(';')))) == stopStatement) stop = i;
+    }
+    for (std::size_t i = stop; i < rows.size(); ++i) {
+        if (!rows[i].bytes.empty())
+            return static_cast<std::int32_t>(parseHexPrefix(rows[i].address));
+    }
+    return std::nullopt;
 }
 
 }  // namespace korvex::wizards::testing

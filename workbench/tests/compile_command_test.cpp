@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 #include "base/files.h"
 #include "base/program_folder.h"
@@ -13,37 +12,24 @@
 namespace korvex {
 namespace {
 
-namespace fs = std::filesystem;
-
-class CompileCommandTest : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        folder_ = makePrivateTemporaryFolder();
-        fs::create_directory(folder_ + "tmp");
-        write("chip.cpu", "VECTOR\r\n0000 RESET\r\nSFR\r\nE0 ACC\r\nBIT\r\nD7 CY\r\n");
-        AssemblerSettings assemblerSettings;
-        assemblerSettings.programFolder = folder_;
-        assembler_ = std::make_unique<Assembler>(host_, assemblerSettings);
-        settings_.hexExtension = "hex";
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-    void write(const std::string& name, const std::string& text) {
-        std::ofstream(folder_ + name, std::ios::binary) << text;
-    }
-    CompileResult compile(const std::string& name, const std::string& text) {
+TEST(CompileCommand, AWindowsTextOrItsProjectIsCompiledAndFindingsNamePlaces) {
+    const std::string folder = makePrivateTemporaryFolder();
+    std::filesystem::create_directory(folder + "tmp");
+    writeWholeFile(folder + "chip.cpu",
+                   "VECTOR\r\n0000 RESET\r\nSFR\r\nE0 ACC\r\nBIT\r\nD7 CY\r\n");
+    writeWholeFile(folder + "teil.a51", "NOP\r\nSJMP NIRGENDS\r\n");
+    QuietHost host;
+    AssemblerSettings assemblerSettings;
+    assemblerSettings.programFolder = folder;
+    Assembler assembler(host, assemblerSettings);
+    Settings settings;
+    settings.hexExtension = "hex";
+    const auto compile = [&](const std::string& name, const std::string& text) {
         return compileWindow(
-            *assembler_, host_, settings_,
-            {folder_ + name, text, OutputSwitches{false, true, false, false}, folder_ + "tmp/"});
-    }
-    std::string folder_;
-    QuietHost host_;
-    Settings settings_;
-    std::unique_ptr<Assembler> assembler_;
-};
-
-TEST_F(CompileCommandTest, AWindowsTextIsCompiledAndItsFindingsNamePlaces) {
-    write("teil.a51", "NOP\r\nSJMP NIRGENDS\r\n");
-    const CompileResult result =
+            assembler, host, settings,
+            {folder + name, text, OutputSwitches{false, true, false, false}, folder + "tmp/"});
+    };
+    CompileResult result =
         compile("haupt.a51", "#cpu chip\r\n#include teil.a51\r\nMOV A,#300\r\nRET\r\n");
     ASSERT_EQ(result.status, CompileStatus::Completed);
     EXPECT_TRUE(result.hasFindings);
@@ -55,22 +41,19 @@ TEST_F(CompileCommandTest, AWindowsTextIsCompiledAndItsFindingsNamePlaces) {
     EXPECT_EQ(result.findings[1].file, "haupt.a51");
     EXPECT_EQ(result.findings[1].line, 3);
     // The window was never saved: the outputs still land beside its file name.
-    EXPECT_TRUE(fileExists(folder_ + "haupt.hex"));
-    EXPECT_FALSE(fileExists(folder_ + "haupt.a51"));
-}
+    EXPECT_TRUE(fileExists(folder + "haupt.hex"));
+    EXPECT_FALSE(fileExists(folder + "haupt.a51"));
 
-TEST_F(CompileCommandTest, APartCompilesItsProjectAndNothingIsSaidWhy) {
-    write("haupt.a51", "#cpu chip\r\nRET\r\n");
-    CompileResult result = compile("teil.a51", "; #part of haupt.a51\r\nNOP\r\n");
-    ASSERT_EQ(result.status, CompileStatus::Completed);
-    EXPECT_EQ(result.sourceName, folder_ + "haupt.a51");
+    writeWholeFile(folder + "haupt.a51", "#cpu chip\r\nRET\r\n");
+    result = compile("teil.a51", "; #part of haupt.a51\r\nNOP\r\n");
+    EXPECT_EQ(result.sourceName, folder + "haupt.a51");
     EXPECT_FALSE(result.hasFindings) << result.report;
     EXPECT_TRUE(result.findings.empty());
-
     result = compile("teil.a51", "NOP\r\n#part of haupt.a51");
     EXPECT_EQ(result.status, CompileStatus::NothingToCompile);
     EXPECT_EQ(result.why, NothingToCompile::PartOfWithoutLineEnd);
     EXPECT_EQ(compile("Disassembling x.h51", "NOP\r\n").why, NothingToCompile::DisassemblyWindow);
+    std::filesystem::remove_all(folder);
 }
 
 }  // namespace

@@ -75,9 +75,6 @@ class Assembler {
     std::string listingText() const;
 
   private:
-    // The tests reach the evaluator and the run state through this seam.
-    friend class AssemblerProbe;
-
     // The routines of the line code.
     void prepareLine(std::string& line);
     void processStatement(std::string& text);
