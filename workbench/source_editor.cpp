@@ -111,6 +111,8 @@ void SourceEditor::LoadText(const std::string& text) {
     {
         FlagGuard change(flags_.SuspendChange);
         FlagGuard selection(flags_.SuspendSelChange);
+        // Text and colours go in as one edit: laid out once, drawn once.
+        OutOfSight hidden(box_);
         box_.SetText(text);
         ::korvex::ApplyCommentColours(box_, flags_, commentColour());
         box_.SetSelStart(0);

@@ -21,11 +21,16 @@ namespace korvex::gui {
 QtTextControl::QtTextControl(QTextEdit* edit)
     : edit_(edit), document_(edit->document()), picture_(bookmarkFlag()) {
     document_->addResource(QTextDocument::ImageResource, QUrl(kPictureName), picture_);
+    // Windows-1252 has no right-to-left letters: said once here, the layout
+    // need not read every line for its direction after each keystroke.
+    QTextOption option = document_->defaultTextOption();
+    option.setTextDirection(Qt::LeftToRight);
+    document_->setDefaultTextOption(option);
     SetFont(font_);
     rebuildMirror();
     notifiedStart_ = SelStart();
     notifiedLength_ = SelLength();
-    connect(document_, &QTextDocument::contentsChange, this, &QtTextControl::onContentsChange);
+    connectDocument();
     connect(edit_, &QTextEdit::cursorPositionChanged, this, &QtTextControl::onCursorMoved);
     connect(edit_, &QTextEdit::selectionChanged, this, &QtTextControl::onCursorMoved);
     connect(edit_, &QTextEdit::textChanged, this, &QtTextControl::onTextChanged);
@@ -33,24 +38,90 @@ QtTextControl::QtTextControl(QTextEdit* edit)
 
 QtTextControl::~QtTextControl() = default;
 
+QTextCursor QtTextControl::selection() const {
+    return bulkEdit_ ? bulk_ : edit_->textCursor();
+}
+
+template <typename Edit>
+void QtTextControl::editSelection(Edit edit) {
+    if (bulkEdit_) {
+        edit(bulk_);
+        return;
+    }
+    QTextCursor cursor = edit_->textCursor();
+    edit(cursor);
+    edit_->setTextCursor(cursor);
+}
+
+void QtTextControl::connectDocument() {
+    connect(document_, &QTextDocument::contentsChange, this, &QtTextControl::onContentsChange);
+}
+
+// The widget shows `fresh` from now on; a document of ours that it showed
+// before goes.
+void QtTextControl::adoptDocument(QTextDocument* fresh) {
+    QTextDocument* old = document_;
+    // Ours hang on the widget, to live as long as it shows them; its own
+    // first document is the widget's to delete.
+    const bool ours = old->parent() == edit_;
+    disconnect(old, nullptr, this, nullptr);
+    document_ = fresh;
+    document_->setUndoRedoEnabled(true);
+    edit_->setDocument(document_);
+    connectDocument();
+    linePrefix_.clear();
+    if (ours) delete old;
+}
+
+void QtTextControl::adoptWaitingDocument() {
+    if (detachedFrom_ == nullptr) return;
+    QTextDocument* filled = document_;
+    document_ = detachedFrom_;
+    detachedFrom_ = nullptr;
+    adoptDocument(filled);
+}
+
 void QtTextControl::SetText(std::string_view text) {
     Operation operation(*this);
     caretFormat_.reset();
     const std::string lines = normaliseLineEnds(text);
     QString qtLines = fromCp1252(lines);
     qtLines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    QTextCursor cursor(document_);
-    cursor.select(QTextCursor::Document);
-    editOwnText(0, TextLength(), lines, [&] { cursor.insertText(qtLines, defaultFormat()); });
+    // A new text goes into a new document, filled apart from the widget: the
+    // widget then lays out only what it shows and the rest bit by bit,
+    // instead of all of it at once, and the load is no step to undo.
+    auto* fresh = new QTextDocument(edit_);
+    fresh->setUndoRedoEnabled(false);
+    fresh->setDefaultFont(document_->defaultFont());
+    fresh->setDefaultTextOption(document_->defaultTextOption());
+    fresh->setDocumentMargin(document_->documentMargin());
+    fresh->addResource(QTextDocument::ImageResource, QUrl(kPictureName), picture_);
+    QTextCursor(fresh).insertText(qtLines, defaultFormat());
+    const std::int32_t oldLength = TextLength();
+    if (bulkEdit_) {
+        // Out of sight it stays apart until drawing resumes, so that the
+        // colouring that follows costs no layout either.
+        bulk_.endEditBlock();
+        detachedFrom_ = document_;
+        document_ = fresh;
+        bulk_ = QTextCursor(document_);
+        bulk_.beginEditBlock();
+    } else {
+        adoptDocument(fresh);
+    }
+    forgetLinesFrom(0);
+    linePrefix_.clear();
+    spliceMirror(0, static_cast<std::size_t>(oldLength), lines);
+    checkMirror();
     selectQt(0, 0);
 }
 
 std::int32_t QtTextControl::SelStart() const {
-    return textPosition(edit_->textCursor().selectionStart());
+    return textPosition(selection().selectionStart());
 }
 
 std::int32_t QtTextControl::SelLength() const {
-    const QTextCursor cursor = edit_->textCursor();
+    const QTextCursor cursor = selection();
     return textPosition(cursor.selectionEnd()) - textPosition(cursor.selectionStart());
 }
 
@@ -81,13 +152,25 @@ void QtTextControl::SetSelText(std::string_view text) {
     qtLines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     const QTextCharFormat format = insertionFormat();
     caretFormat_.reset();
-    QTextCursor cursor = edit_->textCursor();
     const std::int32_t start = SelStart();
-    editOwnText(start, start + SelLength(), lines, [&] { cursor.insertText(qtLines, format); });
-    edit_->setTextCursor(cursor);
+    editSelection([&](QTextCursor& cursor) {
+        editOwnText(start, start + SelLength(), lines, [&] { cursor.insertText(qtLines, format); });
+    });
 }
 
 std::int32_t QtTextControl::GetLineFromChar(std::int32_t position) const {
+    if (detachedFrom_ != nullptr) {
+        // Lines are counted as laid out, and only the widget lays out: it
+        // takes the waiting text now, and the bulk edit goes on there.
+        auto& self = const_cast<QtTextControl&>(*this);
+        const QTextCursor kept = bulk_;
+        self.bulk_.endEditBlock();
+        self.adoptWaitingDocument();
+        self.bulk_ = QTextCursor(document_);
+        self.bulk_.setPosition(kept.anchor());
+        self.bulk_.setPosition(kept.position(), QTextCursor::KeepAnchor);
+        self.bulk_.beginEditBlock();
+    }
     const int at = qtPosition(snapStart(position));
     const QTextBlock block = document_->findBlock(at);
     if (!block.isValid()) return 0;
@@ -135,15 +218,15 @@ void QtTextControl::InsertPicture() {
     caretFormat_.reset();
     if (document_->resource(QTextDocument::ImageResource, QUrl(kPictureName)).isNull())
         document_->addResource(QTextDocument::ImageResource, QUrl(kPictureName), picture_);
-    QTextCursor cursor = edit_->textCursor();
     const std::int32_t start = SelStart();
-    editOwnText(start, start + SelLength(), std::string(1, kPictureCharacter),
-                [&] { cursor.insertImage(image); });
-    edit_->setTextCursor(cursor);
+    editSelection([&](QTextCursor& cursor) {
+        editOwnText(start, start + SelLength(), std::string(1, kPictureCharacter),
+                    [&] { cursor.insertImage(image); });
+    });
 }
 
 bool QtTextControl::SelHasPicture() const {
-    const QTextCursor cursor = edit_->textCursor();
+    const QTextCursor cursor = selection();
     for (int at = cursor.selectionStart(); at < cursor.selectionEnd(); ++at)
         if (isPicture(at)) return true;
     return false;
@@ -158,11 +241,12 @@ std::vector<std::int32_t> QtTextControl::PicturePositions() const {
     return positions;
 }
 
-// Out of sight, all changes go into one edit of the document: the widget
-// lays the text out once at the end instead of after every step.
+// Out of sight, all changes go into one edit of the document, and the
+// selection moves on a cursor of its own: the widget lays the text out once
+// at the end instead of after every step, and places its caret once.
 void QtTextControl::SetDrawingSuspended(bool suspended) {
     if (suspended && !bulkEdit_) {
-        bulk_ = QTextCursor(document_);
+        bulk_ = edit_->textCursor();
         bulk_.beginEditBlock();
         bulkEdit_ = true;
     } else if (!suspended && bulkEdit_) {
@@ -170,6 +254,10 @@ void QtTextControl::SetDrawingSuspended(bool suspended) {
         ownEdit_ = true;
         bulk_.endEditBlock();
         ownEdit_ = false;
+        adoptWaitingDocument();
+        edit_->setTextCursor(bulk_);
+        if (caretFormat_ && !bulk_.hasSelection()) edit_->setCurrentCharFormat(*caretFormat_);
+        bulk_ = QTextCursor();
     }
     drawingSuspended_ = suspended;
     edit_->setUpdatesEnabled(!suspended);
@@ -237,8 +325,23 @@ void QtTextControl::spliceMirror(std::size_t start, std::size_t end, const std::
                            mirror_.begin() + static_cast<std::ptrdiff_t>(end)) +
                   breaksIn(text.begin(), text.end());
     mirror_.replace(start, end - start, text);
-    lineStartsStale_ = true;
+    updateLineStarts(start, end, text);
     pendingChange_ = true;
+}
+
+// A keystroke moves the later line starts instead of counting them anew.
+void QtTextControl::updateLineStarts(std::size_t start, std::size_t end, const std::string& text) {
+    if (lineStartsStale_) return;
+    const auto at = [](std::size_t position) { return static_cast<std::int32_t>(position); };
+    const auto first = std::upper_bound(lineStarts_.begin(), lineStarts_.end(), at(start));
+    const auto last = std::upper_bound(first, lineStarts_.end(), at(end));
+    const auto later = lineStarts_.erase(first, last);
+    const std::int32_t shift = at(text.size()) - at(end - start);
+    for (auto line = later; line != lineStarts_.end(); ++line) *line += shift;
+    std::vector<std::int32_t> added;
+    for (std::size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i + 1))
+        added.push_back(at(start + i + 1));
+    lineStarts_.insert(later, added.begin(), added.end());
 }
 
 void QtTextControl::forgetLinesFrom(int qtPosition) {
@@ -326,6 +429,11 @@ std::int32_t QtTextControl::snapEnd(std::int64_t position) const {
 }
 
 void QtTextControl::selectQt(int anchor, int position) {
+    if (bulkEdit_) {
+        bulk_.setPosition(anchor);
+        bulk_.setPosition(position, QTextCursor::KeepAnchor);
+        return;
+    }
     QTextCursor cursor(document_);
     cursor.setPosition(anchor);
     cursor.setPosition(position, QTextCursor::KeepAnchor);

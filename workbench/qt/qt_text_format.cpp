@@ -81,20 +81,20 @@ QTextCharFormat QtTextControl::caretFormat(int qtPosition) const {
 }
 
 QTextCharFormat QtTextControl::selectionFormat() const {
-    const QTextCursor cursor = edit_->textCursor();
+    const QTextCursor cursor = selection();
     if (cursor.hasSelection()) return formatOfCharacter(cursor.selectionStart());
     return caretFormat_ ? *caretFormat_ : caretFormat(cursor.position());
 }
 
 QTextCharFormat QtTextControl::insertionFormat() const {
-    const QTextCursor cursor = edit_->textCursor();
+    const QTextCursor cursor = selection();
     if (!cursor.hasSelection() && caretFormat_) return *caretFormat_;
     return caretFormat(cursor.selectionStart());
 }
 
 void QtTextControl::mergeCharacterFormat(const QTextCharFormat& change) {
     Operation operation(*this);
-    QTextCursor cursor = edit_->textCursor();
+    QTextCursor cursor = selection();
     if (cursor.hasSelection()) {
         cursor.mergeCharFormat(change);
         return;
@@ -102,7 +102,8 @@ void QtTextControl::mergeCharacterFormat(const QTextCharFormat& change) {
     QTextCharFormat format = textFormat(selectionFormat());
     format.merge(change);
     caretFormat_ = format;
-    edit_->setCurrentCharFormat(format);
+    // Out of sight the widget's caret is placed, with this format, at the end.
+    if (!bulkEdit_) edit_->setCurrentCharFormat(format);
 }
 
 std::int32_t QtTextControl::SelColor() const {
@@ -177,18 +178,18 @@ void QtTextControl::SetFont(const TextFont& font) {
 }
 
 QTextBlock QtTextControl::firstSelectedBlock() const {
-    return document_->findBlock(edit_->textCursor().selectionStart());
+    return document_->findBlock(selection().selectionStart());
 }
 
 template <typename Change>
 void QtTextControl::changeBlocks(Change change) {
     Operation operation(*this);
-    const QTextCursor selection = edit_->textCursor();
-    const QTextBlock last = document_->findBlock(selection.selectionEnd());
+    const QTextCursor selected = selection();
+    const QTextBlock last = document_->findBlock(selected.selectionEnd());
     // One edit for all the lines, laid out once.
     QTextCursor edit(document_);
     edit.beginEditBlock();
-    for (QTextBlock block = document_->findBlock(selection.selectionStart()); block.isValid();
+    for (QTextBlock block = document_->findBlock(selected.selectionStart()); block.isValid();
          block = block.next()) {
         QTextBlockFormat format = block.blockFormat();
         change(format);

@@ -21,7 +21,7 @@ class PlainTextControl : public TextControl {
         bool operator==(const CharFormat&) const = default;
     };
 
-    std::string Text() const override { return text_; }
+    const std::string& Text() const override { return text_; }
     void SetText(std::string_view text) override;
     std::int32_t TextLength() const override { return static_cast<std::int32_t>(text_.size()); }
 

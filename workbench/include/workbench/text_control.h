@@ -62,7 +62,7 @@ class TextControl {
 
     // The whole plain text. Writing it puts all of it in the control's font,
     // black, the paragraphs in the first one's format, the caret at 0.
-    virtual std::string Text() const = 0;
+    virtual const std::string& Text() const = 0;
     virtual void SetText(std::string_view text) = 0;
     virtual std::int32_t TextLength() const = 0;
 

@@ -328,6 +328,26 @@ TYPED_TEST(TextControlTest, WorksAlikeOutOfSight) {
     EXPECT_EQ(box.SelColor(), kGreen);
     EXPECT_EQ(box.GetLineFromChar(15), 3);
     box.SetListener(nullptr);
+
+    // A new text written out of sight is coloured there and shown whole.
+    box.SetDrawingSuspended(true);
+    box.SetText("A ;x\r\nB ;y");
+    box.Select(2, 2);
+    box.SetSelColor(kGreen);
+    box.SetSelStart(8);
+    EXPECT_EQ(box.GetLineFromChar(8), 1);
+    box.Select(8, 2);
+    box.SetSelColor(kRed);
+    box.SetSelStart(7);
+    box.SetDrawingSuspended(false);
+    EXPECT_EQ(box.Text(), "A ;x\r\nB ;y");
+    EXPECT_EQ(box.SelStart(), 7);
+    box.Select(3, 1);
+    EXPECT_EQ(box.SelColor(), kGreen);
+    box.Select(6, 1);
+    EXPECT_EQ(box.SelColor(), kBlack);
+    box.Select(9, 1);
+    EXPECT_EQ(box.SelColor(), kRed);
 }
 
 // A listener that edits the text from inside the event, as the editor does.

@@ -35,7 +35,7 @@ class QtTextControl : public QObject, public TextControl {
 
     QTextEdit* edit() const { return edit_; }
 
-    std::string Text() const override { return mirror_; }
+    const std::string& Text() const override { return mirror_; }
     void SetText(std::string_view text) override;
     std::int32_t TextLength() const override { return static_cast<std::int32_t>(mirror_.size()); }
 
@@ -87,6 +87,9 @@ class QtTextControl : public QObject, public TextControl {
     class Operation;
     friend class Operation;
 
+    void connectDocument();
+    void adoptDocument(QTextDocument* fresh);
+    void adoptWaitingDocument();
     void onContentsChange(int position, int removed, int added);
     void onCursorMoved();
     void onTextChanged();
@@ -98,6 +101,7 @@ class QtTextControl : public QObject, public TextControl {
     void editOwnText(std::int32_t start, std::int32_t end, const std::string& text,
                      const std::function<void()>& edit);
     void spliceMirror(std::size_t start, std::size_t end, const std::string& text);
+    void updateLineStarts(std::size_t start, std::size_t end, const std::string& text);
     void forgetLinesFrom(int qtPosition);
     int textLengthInWidget() const;
     void checkMirror();
@@ -109,6 +113,11 @@ class QtTextControl : public QObject, public TextControl {
     std::int32_t snapStart(std::int64_t position) const;
     std::int32_t snapEnd(std::int64_t position) const;
     void selectQt(int anchor, int position);
+    // The selection: the widget's, or while drawing is suspended the bulk
+    // edit's own.
+    QTextCursor selection() const;
+    template <typename Edit>
+    void editSelection(Edit edit);
 
     static QTextCharFormat textFormat(const QTextCharFormat& format);
     QTextCharFormat defaultFormat() const;
@@ -137,6 +146,9 @@ class QtTextControl : public QObject, public TextControl {
     bool ownEdit_ = false;  // the document reports a change made here
     QTextCursor bulk_;      // holds the one edit while drawing is suspended
     bool bulkEdit_ = false;
+    // While a new text waits out of sight for the widget: the document the
+    // widget still shows.
+    QTextDocument* detachedFrom_ = nullptr;
     std::int32_t notifiedStart_ = 0;
     std::int32_t notifiedLength_ = 0;
     std::int32_t rightMargin_ = 0;
