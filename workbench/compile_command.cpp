@@ -37,34 +37,29 @@ std::vector<FindingPlace> findingsOf(const RunState& state) {
     return findings;
 }
 
-CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& settings,
-                            CompileRequest request) {
-    CompileResult result;
-    NothingToCompile why{};
-    auto source = decideCompileSource(request.caption, std::move(request.text), host, &why);
-    if (!source) {
-        result.why = why;
-        return result;
+bool writeCompileSource(const std::string& text, const std::string& temporaryFolder, Host& host) {
+    try {
+        writeWholeFile(temporaryFolder + "TmpFile.tmp", text);
+        return true;
+    } catch (const RuntimeFailure& failure) {
+        host.messageBox("Fehler", failureBoxText(failure, "Compilieren"), MessageButtons::Ok,
+                        MessageIcon::Critical);
+        return false;
     }
-    result.sourceName = source->name;
-    result.sourceText = std::move(source->text);
+}
 
+CompileResult runCompile(Assembler& assembler, const Settings& settings,
+                         const std::string& sourceName, OutputSwitches switches,
+                         const std::string& temporaryFolder) {
+    CompileResult result;
+    result.sourceName = sourceName;
     AssemblerSettings& run = assembler.settings();
-    run.temporaryFolder = request.temporaryFolder;
+    run.temporaryFolder = temporaryFolder;
     run.listingExtension = settings.listingExtension;
     run.binaryExtension = settings.binaryExtension;
     run.hexExtension = settings.hexExtension;
     run.symbolExtension = settings.symbolExtension;
-
-    try {
-        writeWholeFile(request.temporaryFolder + "TmpFile.tmp", result.sourceText);
-    } catch (const RuntimeFailure& failure) {
-        host.messageBox("Fehler", failureBoxText(failure, "Compilieren"), MessageButtons::Ok,
-                        MessageIcon::Critical);
-        result.status = CompileStatus::Failed;
-        return result;
-    }
-    switch (assembler.assembleSource(result.sourceName, request.switches)) {
+    switch (assembler.assembleSource(sourceName, switches)) {
         case RunOutcome::Aborted: result.status = CompileStatus::Aborted; return result;
         case RunOutcome::Failed: result.status = CompileStatus::Failed; return result;
         case RunOutcome::Completed: break;
@@ -75,6 +70,28 @@ CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& se
     result.hasFindings = startsWith(result.report, "Warnungen/Fehler:");
     result.findings = findingsOf(state);
     result.lengthWarnings = lengthChangeWarnings(state);
+    return result;
+}
+
+CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& settings,
+                            CompileRequest request) {
+    NothingToCompile why{};
+    auto source = decideCompileSource(request.caption, std::move(request.text), host, &why);
+    if (!source) {
+        CompileResult result;
+        result.why = why;
+        return result;
+    }
+    if (!writeCompileSource(source->text, request.temporaryFolder, host)) {
+        CompileResult result;
+        result.status = CompileStatus::Failed;
+        result.sourceName = source->name;
+        result.sourceText = std::move(source->text);
+        return result;
+    }
+    CompileResult result =
+        runCompile(assembler, settings, source->name, request.switches, request.temporaryFolder);
+    result.sourceText = std::move(source->text);
     return result;
 }
 

@@ -1,5 +1,7 @@
 #include "gui/main_window.h"
 
+#include "compile_host.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -72,6 +74,10 @@ MainWindow::MainWindow(std::string programFolder, MainWindowServices services, Q
 MainWindow::~MainWindow() {
     // The windows go first, while the table they report to still stands.
     closing_ = true;
+    removeCompileFolder();
+    if (compileFrame_ != nullptr) compileFrame_->removeEventFilter(this);
+    compileFrame_ = nullptr;
+    compileDialog_ = nullptr;
     for (QMdiSubWindow* frame : area_->subWindowList()) disconnect(frame, nullptr, this, nullptr);
     delete area_;
     area_ = nullptr;
@@ -235,12 +241,15 @@ void MainWindow::showRecentFiles(const std::vector<std::string>& paths) {
 void MainWindow::windowActivated(QMdiSubWindow* frame) {
     if (closing_) return;
     if (EditorDocument* document = documentOf(frame)) commands_.Touched(*document);
+    if (frame != nullptr && frame == compileFrame_) compileDialog_->focusStart();
     refreshCommands();
 }
 
 void MainWindow::refreshCommands() {
     QMdiSubWindow* frame = area_->currentSubWindow();
-    const ChildKind kind = documentOf(frame) != nullptr ? ChildKind::Source : ChildKind::None;
+    const ChildKind kind = documentOf(frame) != nullptr                 ? ChildKind::Source
+                           : frame != nullptr && frame == compileFrame_ ? ChildKind::Compile
+                                                                        : ChildKind::None;
     const CommandVisibility visibility = commandVisibility(kind);
     toolbar_->showPositions(visibility);
     menus_->showDocumentMenu(visibility.documentMenu, visibility.mainEditMenu);
@@ -268,6 +277,13 @@ void MainWindow::updateStatus() {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Close && watched == compileFrame_ && compileFrame_ != nullptr) {
+        // Its frame's close button hides the dialog, as its Schließen does;
+        // during a run it stays.
+        event->ignore();
+        if (!compiling_) hideCompileDialog();
+        return true;
+    }
     if (event->type() == QEvent::Close) {
         if (EditorDocument* document = documentOf(qobject_cast<QMdiSubWindow*>(watched))) {
             if (!commands_.QueryClose(*document)) {
@@ -302,7 +318,13 @@ void MainWindow::frameDestroyed(QMdiSubWindow* frame) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (compiling_) {
+        event->ignore();
+        return;
+    }
+    storeCompilePlace();
     for (QMdiSubWindow* frame : area_->subWindowList()) {
+        if (frame == compileFrame_) continue;
         if (!frame->close()) {
             event->ignore();
             return;

@@ -52,6 +52,8 @@ void MainWindow::registerCommands() {
         {"mnuEInsertTab", onText([](EditorWindow* e) { e->blockEdit(true, kIndentSymbol); })},
         {"mnuEDelTab", onText([](EditorWindow* e) { e->blockEdit(false, kIndentSymbol); })},
         {"mnuELesezeichenEntfernen", onText([](EditorWindow* e) { e->removeBookmarks(); })},
+        {"MnCompComp", [this] { compileActiveWindow(); }},
+        {"MnCompStatus", [this] { showLastReport(); }},
         {"MnCompDisass", [this] { disassemble(); }},
         {"mnuDisasKonfig", [this] { configureDisassembler(); }},
         {"mnuOExtensions", [this] { editExtensions(); }},
@@ -66,6 +68,8 @@ void MainWindow::registerCommands() {
 }
 
 void MainWindow::runCommand(const QString& name) {
+    // While a run works, only the compile dialog's button is live.
+    if (compiling_) return;
     if (const auto handler = handlers_.constFind(name); handler != handlers_.constEnd()) {
         (*handler)();
     } else {

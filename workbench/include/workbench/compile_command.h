@@ -50,8 +50,19 @@ struct CompileResult {
     std::vector<std::string> lengthWarnings;
 };
 
-// `assembler` is the workbench's long-lived one; its program folder and the
-// extensions of `settings` are used for this run.
+// The two halves of the command, for the compile dialog, which writes the
+// source when it opens and assembles it when Start is pressed.
+// Writes `text` as TmpFile.tmp in `temporaryFolder` (ending in "/"); a
+// failure is said through the host's box and gives false.
+bool writeCompileSource(const std::string& text, const std::string& temporaryFolder, Host& host);
+// Assembles what writeCompileSource wrote, as the source `sourceName`, with
+// the extensions of `settings`. `sourceText` stays empty.
+CompileResult runCompile(Assembler& assembler, const Settings& settings,
+                         const std::string& sourceName, OutputSwitches switches,
+                         const std::string& temporaryFolder);
+
+// Both halves after the #PART OF rule. `assembler` is the workbench's long-lived one; its program
+// folder and the extensions of `settings` are used for this run.
 CompileResult compileWindow(Assembler& assembler, Host& host, const Settings& settings,
                             CompileRequest request);
 

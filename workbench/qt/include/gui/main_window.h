@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 
+#include "assembler/assembler.h"
 #include "base/host.h"
 #include "disassembler/disassembler.h"
 #include "gui/editor_document.h"
@@ -32,6 +33,7 @@ namespace korvex::gui {
 
 class CommandMenus;
 class CommandToolbar;
+class CompileDialog;
 
 struct MainWindowServices {
     Host& host;
@@ -66,6 +68,10 @@ class MainWindow : public QMainWindow, private Workspace {
     // case), as a run reads an include that is open.
     std::optional<std::string> openWindowText(const std::string& caption) const;
 
+    // frmCompile, made on first use; nullptr before.
+    CompileDialog* compileDialogIfLoaded() const { return compileDialog_; }
+    bool compiling() const { return compiling_; }
+
     // Shows colours at once in every open window (the settings dialog's
     // preview), without storing them.
     void showColours(const Settings& withColours);
@@ -98,6 +104,17 @@ class MainWindow : public QMainWindow, private Workspace {
     void fillWindowMenu(QMenu* menu);
     void notAvailable(const QString& name);
 
+    class CompileHost;
+    void compileActiveWindow();
+    CompileDialog* compileDialog();
+    void showCompileDialog();
+    void hideCompileDialog();
+    void storeCompilePlace();
+    void startCompile();
+    void abortCompile();
+    void showLastReport();
+    void removeCompileFolder();
+
     void disassemble();
     void configureDisassembler();
     void print();
@@ -127,6 +144,14 @@ class MainWindow : public QMainWindow, private Workspace {
     std::map<QMdiSubWindow*, std::unique_ptr<EditorDocument>> frames_;
     QHash<QString, std::function<void()>> handlers_;
     bool closing_ = false;
+
+    // The compile dialog and the long-lived assembler behind it.
+    CompileDialog* compileDialog_ = nullptr;
+    QMdiSubWindow* compileFrame_ = nullptr;
+    std::unique_ptr<CompileHost> compileHost_;
+    std::unique_ptr<Assembler> assembler_;
+    std::string compileFolder_;  // holds TmpFile.tmp from the command to the end of its run
+    bool compiling_ = false;
 };
 
 }  // namespace korvex::gui
