@@ -23,6 +23,7 @@
 #include "gui/compile_dialog.h"
 #include "gui/editor_window.h"
 #include "gui/main_window.h"
+#include "workbench/find_replace.h"
 #include "workbench/settings.h"
 #include "workbench/user_settings_store.h"
 
@@ -100,6 +101,34 @@ void BM_KeystrokeInLargeSource(benchmark::State& state) {
 // At the top, in the middle and at the end of the document: the widget moves
 // the lines below an edit, so the top costs most.
 BENCHMARK(BM_KeystrokeInLargeSource)->Arg(1)->Arg(16001)->Arg(31999)->Unit(benchmark::kMillisecond);
+
+// Replace all in a source window: every "mov" of 32,000 lines (28,000 hits)
+// becomes "MOVX", with the message box answered at once.
+void BM_ReplaceAllInLargeSource(benchmark::State& state) {
+    const std::string text = commentedSource(32000);
+    const korvex::Settings settings = korvex::defaultSettings("/tmp/");
+    for (auto _ : state) {
+        state.PauseTiming();
+        Window window(settings);
+        window.editor->setSourceText(text);
+        settle();
+        korvex::QuietHost host;
+        korvex::FindState find;
+        korvex::FindReplace replace(find, window.flags, host);
+        korvex::FindBoxes boxes;
+        boxes.findText = "mov";
+        boxes.replaceText = "MOVX";
+        state.ResumeTiming();
+        const int count = replace.ReplaceAll(window.editor->textControl(), boxes);
+        settle();
+        state.PauseTiming();
+        if (count != 28000) state.SkipWithError("Falsche Anzahl Ersetzungen.");
+        window.editor.reset();
+        settle();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_ReplaceAllInLargeSource)->Unit(benchmark::kMillisecond);
 
 // The file dialog always names the one prepared source.
 struct OneFile : korvex::FileDialogs {

@@ -1,6 +1,7 @@
 #include "gui/main_window.h"
 
 #include "compile_host.h"
+#include "gui/find_dialog.h"
 
 #include <QAction>
 #include <QApplication>
@@ -177,6 +178,8 @@ DocumentWindow* MainWindow::createDocumentWindow() {
         if (QMenu* edit = menus_->menu(QStringLiteral("mnuEdit"))) edit->popup(at);
     });
     connect(editor, &EditorWindow::textEdited, this, [this, raw] { commands_.TextEdited(*raw); });
+    connect(editor, &EditorWindow::searchInterrupted, this,
+            [this] { findState_.FindFirstPass = false; });
     connect(editor, &EditorWindow::selectionTouched, this, [this, raw] {
         commands_.Touched(*raw);
         updateEditCommands();
@@ -240,7 +243,14 @@ void MainWindow::showRecentFiles(const std::vector<std::string>& paths) {
 
 void MainWindow::windowActivated(QMdiSubWindow* frame) {
     if (closing_) return;
-    if (EditorDocument* document = documentOf(frame)) commands_.Touched(*document);
+    if (EditorDocument* document = documentOf(frame)) {
+        // Undo of replace all belongs to the text it was done in.
+        if (findDialog_ != nullptr && document->editor() != nullptr &&
+            &document->editor()->textControl() != lastFindText_)
+            findDialog_->disableUndo();
+        if (document->editor() != nullptr) lastFindText_ = &document->editor()->textControl();
+        commands_.Touched(*document);
+    }
     if (frame != nullptr && frame == compileFrame_) compileDialog_->focusStart();
     refreshCommands();
 }

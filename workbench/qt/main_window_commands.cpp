@@ -14,6 +14,7 @@
 #include "base/cp1252.h"
 #include "gui/command_menus.h"
 #include "gui/extensions_dialog.h"
+#include "gui/find_dialog.h"
 #include "gui/main_window.h"
 #include "gui/qt_text.h"
 #include "gui/setup_dialog.h"
@@ -52,6 +53,9 @@ void MainWindow::registerCommands() {
         {"mnuEInsertTab", onText([](EditorWindow* e) { e->blockEdit(true, kIndentSymbol); })},
         {"mnuEDelTab", onText([](EditorWindow* e) { e->blockEdit(false, kIndentSymbol); })},
         {"mnuELesezeichenEntfernen", onText([](EditorWindow* e) { e->removeBookmarks(); })},
+        {"mnuSFind", [this] { openFindDialog(false); }},
+        {"mnuSReplace", [this] { openFindDialog(true); }},
+        {"mnuSFindNext", [this] { findNext(); }},
         {"MnCompComp", [this] { compileActiveWindow(); }},
         {"MnCompStatus", [this] { showLastReport(); }},
         {"MnCompDisass", [this] { disassemble(); }},
@@ -65,6 +69,38 @@ void MainWindow::registerCommands() {
         {"mnuWTile", [this] { tileOneUnderAnother(area_); }},
         {"mnuWArrange", [this] { arrangeIcons(area_); }},
     };
+}
+
+void MainWindow::openFindDialog(bool replacing) {
+    EditorWindow* editor = activeEditor();
+    if (editor == nullptr) return;
+    if (findDialog_ == nullptr) {
+        findDialog_ = new FindDialog(
+            findState_, find_,
+            [this]() -> TextControl* {
+                EditorWindow* active = activeEditor();
+                return active != nullptr ? &active->textControl() : nullptr;
+            },
+            [this] {
+                if (EditorWindow* active = activeEditor()) active->textEdit()->setFocus();
+            },
+            this);
+    }
+    findDialog_->openOn(korvex::openFindDialog(findState_, editor->textControl()));
+    if (replacing) findDialog_->setReplacing(true);
+}
+
+void MainWindow::findNext() {
+    EditorWindow* editor = activeEditor();
+    if (editor == nullptr) return;
+    const bool selectionOnly = findDialog_ != nullptr ? findDialog_->boxes().selectionOnly
+                                                      : findState_.FindSelectChecked != 0;
+    FindOutcome outcome;
+    if (!find_.FindNext(editor->textControl(), selectionOnly, &outcome)) {
+        openFindDialog(false);
+        return;
+    }
+    if (outcome.backToStart && findDialog_ == nullptr) editor->textEdit()->setFocus();
 }
 
 void MainWindow::runCommand(const QString& name) {

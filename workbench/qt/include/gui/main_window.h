@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QPointer>
 #include <functional>
 #include <map>
 #include <memory>
@@ -16,10 +17,12 @@
 #include "base/host.h"
 #include "disassembler/disassembler.h"
 #include "gui/editor_document.h"
+#include "gui/find_dialog.h"
 #include "workbench/command_visibility.h"
 #include "workbench/document_table.h"
 #include "workbench/editor_flags.h"
 #include "workbench/file_commands.h"
+#include "workbench/find_replace.h"
 #include "workbench/recent_files.h"
 #include "workbench/settings.h"
 
@@ -71,6 +74,9 @@ class MainWindow : public QMainWindow, private Workspace {
     // frmCompile, made on first use; nullptr before.
     CompileDialog* compileDialogIfLoaded() const { return compileDialog_; }
     bool compiling() const { return compiling_; }
+    // frmFind while it is open.
+    FindDialog* findDialog() const { return findDialog_; }
+    const FindState& findState() const { return findState_; }
 
     // Shows colours at once in every open window (the settings dialog's
     // preview), without storing them.
@@ -115,6 +121,9 @@ class MainWindow : public QMainWindow, private Workspace {
     void showLastReport();
     void removeCompileFolder();
 
+    void openFindDialog(bool replacing);
+    void findNext();
+
     void disassemble();
     void configureDisassembler();
     void print();
@@ -152,6 +161,12 @@ class MainWindow : public QMainWindow, private Workspace {
     std::unique_ptr<Assembler> assembler_;
     std::string compileFolder_;  // holds TmpFile.tmp from the command to the end of its run
     bool compiling_ = false;
+
+    // Find and replace: its state lasts as long as the program.
+    FindState findState_;
+    FindReplace find_{findState_, flags_, host_};
+    QPointer<FindDialog> findDialog_;
+    const TextControl* lastFindText_ = nullptr;  // the text of the last active source window
 };
 
 }  // namespace korvex::gui
