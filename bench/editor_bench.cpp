@@ -14,6 +14,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -107,6 +108,7 @@ BENCHMARK(BM_KeystrokeInLargeSource)->Arg(1)->Arg(16001)->Arg(31999)->Unit(bench
 void BM_ReplaceAllInLargeSource(benchmark::State& state) {
     const std::string text = commentedSource(32000);
     const korvex::Settings settings = korvex::defaultSettings("/tmp/");
+    double undoSeconds = 0;
     for (auto _ : state) {
         state.PauseTiming();
         Window window(settings);
@@ -123,10 +125,19 @@ void BM_ReplaceAllInLargeSource(benchmark::State& state) {
         settle();
         state.PauseTiming();
         if (count != 28000) state.SkipWithError("Falsche Anzahl Ersetzungen.");
+        // Its undo gives back the text exactly.
+        const auto undoStart = std::chrono::steady_clock::now();
+        replace.UndoReplaceAll(window.editor->textControl());
+        settle();
+        undoSeconds +=
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - undoStart).count();
+        if (window.editor->sourceText() != text) state.SkipWithError("Undo stellt nicht her.");
         window.editor.reset();
         settle();
         state.ResumeTiming();
     }
+    state.counters["Undo_ms"] =
+        benchmark::Counter(undoSeconds * 1000 / static_cast<double>(state.iterations()));
 }
 BENCHMARK(BM_ReplaceAllInLargeSource)->Unit(benchmark::kMillisecond);
 
