@@ -78,6 +78,14 @@ TEST(CompileWindow, F5AssemblesTheEditedTextAndWritesTheChosenOutputsBesideTheFi
     bench.trigger("MnCompStatus");
     EXPECT_EQ(bench.report(), first);
     EXPECT_FALSE(start->isEnabled());
+
+    // Its place and size outlive the program, in twips.
+    bench.dialog()->parentWidget()->setGeometry(20, 30, 500, 400);
+    bench.window.close();
+    EXPECT_EQ(bench.window.settings().CompileWindowLeft, 300);
+    EXPECT_EQ(bench.window.settings().CompileWindowTop, 450);
+    EXPECT_EQ(bench.window.settings().CompileWindowWidth, 7500);
+    EXPECT_EQ(bench.window.settings().CompileWindowHeight, 6000);
 }
 
 TEST(CompileWindow, FindingsShowRedInTheReport) {
