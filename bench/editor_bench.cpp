@@ -1,6 +1,7 @@
 // The workbench on large documents: opening a file in a source window (text
 // in, comments coloured, laid out, ready for typing), one keystroke at three
-// places in it, and compiling it from the window with the report shown.
+// places in it, compiling it from the window with the report shown, replace
+// all in it, and a large binary file in the grid viewer.
 // Runs on Qt's offscreen platform unless told otherwise.
 
 #include <benchmark/benchmark.h>
@@ -21,9 +22,11 @@
 
 #include "base/files.h"
 #include "base/program_folder.h"
+#include "gui/byte_grid_window.h"
 #include "gui/compile_dialog.h"
 #include "gui/editor_window.h"
 #include "gui/main_window.h"
+#include "workbench/byte_grid.h"
 #include "workbench/find_replace.h"
 #include "workbench/settings.h"
 #include "workbench/user_settings_store.h"
@@ -140,6 +143,23 @@ void BM_ReplaceAllInLargeSource(benchmark::State& state) {
         benchmark::Counter(undoSeconds * 1000 / static_cast<double>(state.iterations()));
 }
 BENCHMARK(BM_ReplaceAllInLargeSource)->Unit(benchmark::kMillisecond);
+
+// A binary file of 300,000 bytes into the grid viewer, shown.
+void BM_OpenBinaryFileInTheGrid(benchmark::State& state) {
+    std::string bytes(300000, '\0');
+    for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 7);
+    for (auto _ : state) {
+        korvex::gui::ByteGridWindow window(korvex::gui::ByteGridWindow::Kind::Binary,
+                                           korvex::binaryGrid(bytes), 0xC0C0C0, 0xFFFFFF);
+        window.resize(900, 600);
+        window.show();
+        settle();
+        state.PauseTiming();
+        window.hide();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_OpenBinaryFileInTheGrid)->Unit(benchmark::kMillisecond);
 
 // The file dialog always names the one prepared source.
 struct OneFile : korvex::FileDialogs {

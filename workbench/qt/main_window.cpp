@@ -255,6 +255,18 @@ void MainWindow::windowActivated(QMdiSubWindow* frame) {
     refreshCommands();
 }
 
+ChildKind MainWindow::childKindOf(QMdiSubWindow* frame) const {
+    if (frame == nullptr) return ChildKind::None;
+    if (documentOf(frame) != nullptr) return ChildKind::Source;
+    if (frame == compileFrame_) return ChildKind::Compile;
+    const QString name = frame->widget() != nullptr ? frame->widget()->objectName() : QString();
+    if (name == QLatin1String("frmListing")) return ChildKind::Listing;
+    if (name == QLatin1String("frmHexDump")) return ChildKind::HexDump;
+    if (name == QLatin1String("frmBinDump")) return ChildKind::BinDump;
+    if (name == QLatin1String("frmCPUTreiber")) return ChildKind::CpuDriver;
+    return ChildKind::None;
+}
+
 void MainWindow::refreshCommands() {
     QMdiSubWindow* frame = area_->currentSubWindow();
     const ChildKind kind = documentOf(frame) != nullptr                 ? ChildKind::Source
@@ -268,8 +280,8 @@ void MainWindow::refreshCommands() {
 }
 
 void MainWindow::updateEditCommands() {
-    EditorWindow* editor = activeEditor();
-    const bool selection = editor != nullptr && editor->textEdit()->textCursor().hasSelection();
+    QTextEdit* text = activeTextEdit();
+    const bool selection = text != nullptr && text->textCursor().hasSelection();
     for (const char* name : {"mnuECut", "mnuECopy", "mnuEDelete"})
         menus_->action(QString::fromLatin1(name))->setEnabled(selection);
     toolbar_->position(8)->setEnabled(selection);
@@ -294,6 +306,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         if (!compiling_) hideCompileDialog();
         return true;
     }
+    if (event->type() == QEvent::Close && watched->property("sharedPlace").toBool())
+        storeSharedPlace(static_cast<QMdiSubWindow*>(watched));
     if (event->type() == QEvent::Close) {
         if (EditorDocument* document = documentOf(qobject_cast<QMdiSubWindow*>(watched))) {
             if (!commands_.QueryClose(*document)) {

@@ -15,6 +15,7 @@
 #include "gui/command_menus.h"
 #include "gui/extensions_dialog.h"
 #include "gui/find_dialog.h"
+#include "gui/listing_window.h"
 #include "gui/main_window.h"
 #include "gui/qt_text.h"
 #include "gui/setup_dialog.h"
@@ -42,17 +43,40 @@ void MainWindow::registerCommands() {
         {"MnFDrucken", [this] { print(); }},
         {"MnuDrucken", [this] { print(); }},
         {"mnuFExit", [this] { close(); }},
-        {"mnuECut", onText([](EditorWindow* e) { e->textEdit()->cut(); })},
-        {"mnuECopy", onText([](EditorWindow* e) { e->textEdit()->copy(); })},
-        {"mnuEPaste", onText([](EditorWindow* e) { e->textEdit()->paste(); })},
-        {"mnuEDelete", onText([](EditorWindow* e) { e->deleteSelection(); })},
-        {"mnuESelectAll", onText([](EditorWindow* e) { e->textEdit()->selectAll(); })},
+        {"mnuECut",
+         [this] {
+             if (QTextEdit* text = activeTextEdit()) text->cut();
+         }},
+        {"mnuECopy",
+         [this] {
+             if (QTextEdit* text = activeTextEdit()) text->copy();
+         }},
+        {"mnuEPaste",
+         [this] {
+             if (QTextEdit* text = activeTextEdit()) text->paste();
+         }},
+        {"mnuEDelete",
+         [this] {
+             if (EditorWindow* editor = activeEditor())
+                 editor->deleteSelection();
+             else if (QTextEdit* text = activeTextEdit())
+                 text->textCursor().removeSelectedText();
+         }},
+        {"mnuESelectAll",
+         [this] {
+             if (QTextEdit* text = activeTextEdit()) text->selectAll();
+         }},
         {"mnuEGoto", onText([](EditorWindow* e) { e->goToLine(); })},
         {"mnuEKomment", onText([](EditorWindow* e) { e->blockEdit(true, kCommentSymbol); })},
         {"mnuEentKomment", onText([](EditorWindow* e) { e->blockEdit(false, kCommentSymbol); })},
         {"mnuEInsertTab", onText([](EditorWindow* e) { e->blockEdit(true, kIndentSymbol); })},
         {"mnuEDelTab", onText([](EditorWindow* e) { e->blockEdit(false, kIndentSymbol); })},
         {"mnuELesezeichenEntfernen", onText([](EditorWindow* e) { e->removeBookmarks(); })},
+        {"mnuLOpen", [this] { openListing(); }},
+        {"MnuHexDump", [this] { openByteFile(true); }},
+        {"MnBinDump", [this] { openByteFile(false); }},
+        {"MnuBinDump", [this] { openByteFile(false); }},
+        {"MnCPUeinsehen", [this] { showCpuFile(); }},
         {"mnuSFind", [this] { openFindDialog(false); }},
         {"mnuSReplace", [this] { openFindDialog(true); }},
         {"mnuSFindNext", [this] { findNext(); }},
@@ -71,36 +95,46 @@ void MainWindow::registerCommands() {
     };
 }
 
+QTextEdit* MainWindow::activeTextEdit() const {
+    if (EditorWindow* editor = activeEditor()) return editor->textEdit();
+    QMdiSubWindow* frame = area_->currentSubWindow();
+    auto* listing = frame != nullptr ? qobject_cast<ListingWindow*>(frame->widget()) : nullptr;
+    return listing != nullptr ? listing->textEdit() : nullptr;
+}
+
+TextControl* MainWindow::activeTextControl() const {
+    if (EditorWindow* editor = activeEditor()) return &editor->textControl();
+    QMdiSubWindow* frame = area_->currentSubWindow();
+    auto* listing = frame != nullptr ? qobject_cast<ListingWindow*>(frame->widget()) : nullptr;
+    return listing != nullptr ? &listing->textControl() : nullptr;
+}
+
 void MainWindow::openFindDialog(bool replacing) {
-    EditorWindow* editor = activeEditor();
-    if (editor == nullptr) return;
+    TextControl* text = activeTextControl();
+    if (text == nullptr) return;
     if (findDialog_ == nullptr) {
         findDialog_ = new FindDialog(
-            findState_, find_,
-            [this]() -> TextControl* {
-                EditorWindow* active = activeEditor();
-                return active != nullptr ? &active->textControl() : nullptr;
-            },
+            findState_, find_, [this] { return activeTextControl(); },
             [this] {
-                if (EditorWindow* active = activeEditor()) active->textEdit()->setFocus();
+                if (QTextEdit* active = activeTextEdit()) active->setFocus();
             },
             this);
     }
-    findDialog_->openOn(korvex::openFindDialog(findState_, editor->textControl()));
+    findDialog_->openOn(korvex::openFindDialog(findState_, *text));
     if (replacing) findDialog_->setReplacing(true);
 }
 
 void MainWindow::findNext() {
-    EditorWindow* editor = activeEditor();
-    if (editor == nullptr) return;
+    TextControl* text = activeTextControl();
+    if (text == nullptr) return;
     const bool selectionOnly = findDialog_ != nullptr ? findDialog_->boxes().selectionOnly
                                                       : findState_.FindSelectChecked != 0;
     FindOutcome outcome;
-    if (!find_.FindNext(editor->textControl(), selectionOnly, &outcome)) {
+    if (!find_.FindNext(*text, selectionOnly, &outcome)) {
         openFindDialog(false);
         return;
     }
-    if (outcome.backToStart && findDialog_ == nullptr) editor->textEdit()->setFocus();
+    if (outcome.backToStart && findDialog_ == nullptr) activeTextEdit()->setFocus();
 }
 
 void MainWindow::runCommand(const QString& name) {

@@ -31,6 +31,7 @@ class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
 class QProgressBar;
+class QTextEdit;
 
 namespace korvex::gui {
 
@@ -104,6 +105,7 @@ class MainWindow : public QMainWindow, private Workspace {
     EditorDocument* documentOf(QMdiSubWindow* frame) const;
     void windowActivated(QMdiSubWindow* frame);
     void frameDestroyed(QMdiSubWindow* frame);
+    ChildKind childKindOf(QMdiSubWindow* frame) const;
     void refreshCommands();
     void updateEditCommands();
     void updateStatus();
@@ -120,6 +122,17 @@ class MainWindow : public QMainWindow, private Workspace {
     void abortCompile();
     void showLastReport();
     void removeCompileFolder();
+
+    // The viewers.
+    QMdiSubWindow* addViewer(QWidget* viewer, const std::string& caption);
+    void say(const std::string& text);
+    void openListing();
+    void openByteFile(bool hex);
+    void storeSharedPlace(QMdiSubWindow* frame);
+    void showCpuFile();
+    // The text of the active source or listing window, for editing and searching.
+    QTextEdit* activeTextEdit() const;
+    TextControl* activeTextControl() const;
 
     void openFindDialog(bool replacing);
     void findNext();

@@ -1,0 +1,163 @@
+// The viewers of the workbench: listing, hex and binary files and the
+// controller's driver, each open in a new window.
+
+#include <QIcon>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+#include "assembler/cpu_driver.h"
+#include "base/cp1252.h"
+#include "base/failure.h"
+#include "base/files.h"
+#include "base/program_folder.h"
+#include "base/text.h"
+#include "gui/byte_grid_window.h"
+#include "gui/command_menus.h"
+#include "gui/listing_window.h"
+#include "gui/main_window.h"
+#include "gui/qt_text.h"
+#include "workbench/captions.h"
+#include "workbench/colours.h"
+#include "workbench/last_dirs.h"
+#include "workbench/viewer_requests.h"
+
+namespace korvex::gui {
+namespace {
+
+constexpr double kTwipsPerPixel = 15.0;
+
+int pixels(std::int16_t twips) {
+    return static_cast<int>(twips / kTwipsPerPixel);
+}
+
+std::int16_t twips(int pixels) {
+    return static_cast<std::int16_t>(std::clamp(pixels * 15, -32768, 32767));
+}
+
+}  // namespace
+
+QMdiSubWindow* MainWindow::addViewer(QWidget* viewer, const std::string& caption) {
+    QMdiSubWindow* frame = area_->addSubWindow(viewer);
+    frame->setAttribute(Qt::WA_DeleteOnClose);
+    frame->setWindowIcon(QIcon(QStringLiteral(":/icons/listing.xpm")));
+    frame->setWindowTitle(fromCp1252(caption));
+    viewer->setWindowTitle(fromCp1252(caption));
+    frame->installEventFilter(this);
+    const QSize inner = area_->viewport()->size();
+    frame->resize(std::max(inner.width() * 3 / 4, 320), std::max(inner.height() * 3 / 4, 200));
+    frame->show();
+    area_->setActiveSubWindow(frame);
+    viewer->setFocus();
+    refreshCommands();
+    return frame;
+}
+
+void MainWindow::say(const std::string& text) {
+    host_.messageBox(std::string(kMainCaption), text, MessageButtons::Ok, MessageIcon::None);
+}
+
+void MainWindow::openListing() {
+    const std::string chosen = dialogs_.openFileName(listingFileRequest(settings_));
+    if (chosen.empty()) return;
+    noteChosenFolder(settings_, chosen);
+    std::string text;
+    try {
+        text = readWholeFile(toUtf8(chosen));
+    } catch (const RuntimeFailure& failure) {
+        host_.messageBox("Fehler", failureBoxText(failure, "OpenListing"), MessageButtons::Ok,
+                         MessageIcon::Critical);
+        return;
+    }
+    auto* listing = new ListingWindow(flags_, settings_);
+    connect(listing, &ListingWindow::editMenuRequested, this, [this](const QPoint& at) {
+        if (QMenu* edit = menus_->menu(QStringLiteral("mnEdit"))) edit->popup(at);
+    });
+    connect(listing->textEdit(), &QTextEdit::selectionChanged, this,
+            [this] { updateEditCommands(); });
+    addViewer(listing, viewerCaption("Listing: ", chosen));
+    listing->load(text);
+}
+
+void MainWindow::openByteFile(bool hex) {
+    const std::string chosen =
+        dialogs_.openFileName(hex ? hexFileRequest(settings_) : binaryFileRequest(settings_));
+    if (chosen.empty()) return;
+    std::string bytes;
+    try {
+        bytes = readWholeFile(toUtf8(chosen));
+    } catch (const RuntimeFailure& failure) {
+        say(text8("Datei kann nicht geöffnet werden: ") + chosen + " " +
+            std::to_string(failure.number()));
+        return;
+    }
+    ByteGrid grid;
+    if (hex) {
+        switch (readHexGrid(bytes, grid)) {
+            case HexReading::Empty: say(chosen + text8(" : Leere oder ungültige Hexdatei")); return;
+            case HexReading::InvalidFormat: say(chosen + text8(" : Ungültiges Hexformat")); return;
+            case HexReading::Shown: break;
+        }
+    } else {
+        if (bytes.empty()) {
+            say(chosen + text8(" : Leere Binärdatei"));
+            return;
+        }
+        try {
+            grid = binaryGrid(bytes);
+        } catch (const RuntimeFailure& failure) {
+            host_.messageBox("Fehler", failureBoxText(failure, "OpenBinFile"), MessageButtons::Ok,
+                             MessageIcon::Critical);
+            return;
+        }
+    }
+    noteChosenFolder(settings_, chosen);
+    auto* window =
+        new ByteGridWindow(hex ? ByteGridWindow::Kind::Hex : ByteGridWindow::Kind::Binary,
+                           std::move(grid), settings_.Colours[hex ? kHexBorder : kBinaryBorder],
+                           settings_.Colours[hex ? kHexContent : kBinaryContent]);
+    QMdiSubWindow* frame =
+        addViewer(window, viewerCaption(hex ? "Hexdatei: " : text8("Binärdatei: "), chosen));
+    // Hex and binary windows share one place.
+    frame->setProperty("sharedPlace", true);
+    frame->setGeometry(pixels(settings_.HexWindowLeft), pixels(settings_.HexWindowTop),
+                       std::max(pixels(settings_.HexWindowWidth), 200),
+                       std::max(pixels(settings_.HexWindowHeight), 400 / 15 + 100));
+}
+
+void MainWindow::storeSharedPlace(QMdiSubWindow* frame) {
+    if (frame->isMinimized()) return;
+    const QRect place = frame->geometry();
+    settings_.HexWindowLeft = twips(place.x());
+    settings_.HexWindowTop = twips(place.y());
+    settings_.HexWindowWidth = twips(place.width());
+    settings_.HexWindowHeight = twips(place.height());
+}
+
+void MainWindow::showCpuFile() {
+    const std::string name = removeAll(settings_.ControllerName, '\'');
+    const std::string path = cpuDriverPath(name, programFolder_);
+    std::string text;
+    try {
+        text = readWholeFile(path);
+    } catch (const RuntimeFailure& failure) {
+        say("Kann Datei " + fromUtf8(path) + " nicht lesen: " + failure.description());
+        return;
+    }
+    auto* viewer = new QWidget;
+    viewer->setObjectName(QStringLiteral("frmCPUTreiber"));
+    auto* box = new QPlainTextEdit(viewer);
+    box->setObjectName(QStringLiteral("CPUTextbox"));
+    box->setReadOnly(true);
+    box->setPlainText(fromCp1252(text));
+    box->setLineWrapMode(QPlainTextEdit::NoWrap);
+    auto* layout = new QVBoxLayout(viewer);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(box);
+    addViewer(viewer, "CPU-Datei: " + fromUtf8(path));
+}
+
+}  // namespace korvex::gui
