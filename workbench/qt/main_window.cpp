@@ -264,6 +264,7 @@ ChildKind MainWindow::childKindOf(QMdiSubWindow* frame) const {
     if (name == QLatin1String("frmHexDump")) return ChildKind::HexDump;
     if (name == QLatin1String("frmBinDump")) return ChildKind::BinDump;
     if (name == QLatin1String("frmCPUTreiber")) return ChildKind::CpuDriver;
+    if (name == QLatin1String("frmDateivergleich")) return ChildKind::FileComparison;
     return ChildKind::None;
 }
 

@@ -77,6 +77,7 @@ void MainWindow::registerCommands() {
         {"MnBinDump", [this] { openByteFile(false); }},
         {"MnuBinDump", [this] { openByteFile(false); }},
         {"MnCPUeinsehen", [this] { showCpuFile(); }},
+        {"MnDateivergleich", [this] { openFileComparison(); }},
         {"mnuSFind", [this] { openFindDialog(false); }},
         {"mnuSReplace", [this] { openFindDialog(true); }},
         {"mnuSFindNext", [this] { findNext(); }},

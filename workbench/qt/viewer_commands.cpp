@@ -17,6 +17,7 @@
 #include "base/text.h"
 #include "gui/byte_grid_window.h"
 #include "gui/command_menus.h"
+#include "gui/file_comparison_window.h"
 #include "gui/listing_window.h"
 #include "gui/main_window.h"
 #include "gui/qt_text.h"
@@ -135,6 +136,31 @@ void MainWindow::storeSharedPlace(QMdiSubWindow* frame) {
     settings_.HexWindowTop = twips(place.y());
     settings_.HexWindowWidth = twips(place.width());
     settings_.HexWindowHeight = twips(place.height());
+}
+
+void MainWindow::openFileComparison() {
+    for (QMdiSubWindow* frame : area_->subWindowList()) {
+        if (qobject_cast<FileComparisonWindow*>(frame->widget()) != nullptr) {
+            area_->setActiveSubWindow(frame);
+            return;
+        }
+    }
+    FileComparisonWindow::Services services;
+    services.chooseFile = [this] {
+        FileDialogRequest request;
+        request.title = text8("Datei öffnen");
+        request.filter = "Alle Dateien (*.*)|*.*";
+        return dialogs_.openFileName(request);
+    };
+    services.noteFolder = [this](const std::string& path) { noteChosenFolder(settings_, path); };
+    services.failed = [this](const RuntimeFailure& failure) {
+        host_.messageBox("Fehler", failureBoxText(failure, "Vergleich_Click"), MessageButtons::Ok,
+                         MessageIcon::Critical);
+    };
+    auto* window =
+        new FileComparisonWindow(std::move(services), settings_.Colours[kComparisonBackground]);
+    QMdiSubWindow* frame = addViewer(window, "Dateivergleich");
+    connect(window, &FileComparisonWindow::closeRequested, frame, &QMdiSubWindow::close);
 }
 
 void MainWindow::showCpuFile() {

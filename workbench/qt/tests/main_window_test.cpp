@@ -128,10 +128,10 @@ TEST(MainWindow, TheToolbarAndTheMenusFollowTheActiveWindow) {
 
 TEST(MainWindow, CommandsOfLaterWindowsSayInGermanThatTheyArentThereYet) {
     Bench bench;
-    bench.trigger("MnDateivergleich");
+    bench.trigger("MnMain");
     ASSERT_EQ(bench.host.boxes.size(), 1u);
     EXPECT_EQ(bench.host.boxes[0].text,
-              text8("„Dateien vergleichen“ ist in dieser Version noch nicht verfügbar."));
+              text8("„Projektdateinamen einfügen“ ist in dieser Version noch nicht verfügbar."));
     QTest::mouseClick(bench.window.findChild<QLabel*>(QStringLiteral("Label1")), Qt::LeftButton);
     ASSERT_EQ(bench.host.boxes.size(), 2u);
     EXPECT_NE(bench.host.boxes[1].text.find("Controller festlegen"), std::string::npos);
@@ -209,6 +209,7 @@ TEST(MainWindow, EveryCommandHasItsCaptionKeyAndToolTip) {
                                  "MnBinDump",
                                  "MnuBinDump",
                                  "MnCPUeinsehen",
+                                 "MnDateivergleich",
                                  "MnCompComp",
                                  "MnCompStatus",
                                  "mnuSFind",

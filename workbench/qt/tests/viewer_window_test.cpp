@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -125,6 +127,38 @@ TEST(ViewerWindow, BinaryFilesAndTheDriverFile) {
     EXPECT_EQ(
         bench.viewer()->findChild<QPlainTextEdit*>(QStringLiteral("CPUTextbox"))->toPlainText(),
         QStringLiteral("; Treiber\nP0 = 80h\n"));
+}
+
+TEST(ViewerWindow, AHexFileComparesWithItsBinaryImage) {
+    ViewerBench bench;
+    const std::string hex = bench.folder.write("prog.h51", ":0300020011223369\r\n:00000001FF\r\n");
+    const std::string image =
+        bench.folder.write("prog.b51", std::string("\xFF\xFF\x11\x22\x33", 5));
+    const std::string other =
+        bench.folder.write("other.b51", std::string("\xFF\xFF\x11\x99\x33!", 6));
+    bench.trigger("MnDateivergleich");
+    EXPECT_EQ(bench.caption(), QStringLiteral("Dateivergleich"));
+    QWidget* window = bench.viewer();
+    const auto part = [window](const char* name) {
+        return window->findChild<QWidget*>(QString::fromLatin1(name));
+    };
+    bench.dialogs.answers = {hex, image};
+    qobject_cast<QPushButton*>(part("Command1"))->click();
+    qobject_cast<QPushButton*>(part("Command2"))->click();
+    EXPECT_EQ(qobject_cast<QLineEdit*>(part("Text1_1"))->text(), QStringLiteral("32"));
+    EXPECT_EQ(qobject_cast<QLineEdit*>(part("Text2_1"))->text(), QStringLiteral("5"));
+    auto* compare = qobject_cast<QPushButton*>(part("Vergleich"));
+    auto* list = qobject_cast<QPlainTextEdit*>(part("Text3"));
+    compare->click();
+    EXPECT_EQ(list->toPlainText(), QString());
+    bench.dialogs.answers = {other};
+    qobject_cast<QPushButton*>(part("Command2"))->click();
+    compare->click();
+    EXPECT_EQ(list->toPlainText(), QStringLiteral("000003h: 22 99\n"));
+    // Without the expansion the hex file is compared as text.
+    qobject_cast<QCheckBox*>(part("ChkHexumwandlung"))->click();
+    compare->click();
+    EXPECT_EQ(list->toPlainText().count(QLatin1Char('\n')), 6);
 }
 
 }  // namespace

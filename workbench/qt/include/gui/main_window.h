@@ -130,6 +130,7 @@ class MainWindow : public QMainWindow, private Workspace {
     void openByteFile(bool hex);
     void storeSharedPlace(QMdiSubWindow* frame);
     void showCpuFile();
+    void openFileComparison();
     // The text of the active source or listing window, for editing and searching.
     QTextEdit* activeTextEdit() const;
     TextControl* activeTextControl() const;
