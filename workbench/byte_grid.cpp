@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "base/failure.h"
+#include "base/text.h"
 
 namespace korvex {
 namespace {
@@ -10,22 +11,9 @@ namespace {
 constexpr std::size_t kMinimumHexFile = 14;
 constexpr int kMaximumRows = 32767;  // the viewer's row counter is 16-bit
 
-int hexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    return -1;
-}
-
 // As far as the digits give a value: "4G" is 4, "G4" is 0.
 unsigned leadingHexValue(std::string_view text) {
-    unsigned value = 0;
-    for (const char c : text) {
-        const int digit = hexDigit(c);
-        if (digit < 0) break;
-        value = value * 16 + static_cast<unsigned>(digit);
-    }
-    return value;
+    return static_cast<unsigned>(parseHexPrefix(text));
 }
 
 std::string fourDigits(unsigned value) {
@@ -41,22 +29,6 @@ ByteRow emptyRow(std::string address) {
     return row;
 }
 
-std::vector<std::string> linesOf(const std::string& bytes) {
-    std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (start < bytes.size()) {
-        std::size_t end = bytes.find_first_of("\r\n", start);
-        if (end == std::string::npos) end = bytes.size();
-        lines.push_back(bytes.substr(start, end - start));
-        // CR LF, a lone CR and a lone LF each end one line.
-        if (end < bytes.size() && bytes[end] == '\r' && end + 1 < bytes.size() &&
-            bytes[end + 1] == '\n')
-            ++end;
-        start = end + 1;
-    }
-    return lines;
-}
-
 }  // namespace
 
 char shownCharacter(unsigned char byte) {
@@ -66,16 +38,17 @@ char shownCharacter(unsigned char byte) {
 HexReading readHexGrid(const std::string& bytes, ByteGrid& grid) {
     grid.rows.clear();
     if (bytes.size() < kMinimumHexFile) return HexReading::Empty;
-    const std::vector<std::string> lines = linesOf(bytes);
-    for (const std::string& line : lines)
+    const std::vector<std::string_view> lines = textLines(bytes);
+    for (const std::string_view line : lines)
         if (line.empty() || line[0] != ':') return HexReading::InvalidFormat;
 
     unsigned rowBase = 0;
     int nextColumn = 17;  // no row yet
     // The last line is the end record of a proper file and never looked at.
     for (std::size_t index = 0; index + 1 < lines.size(); ++index) {
-        const std::string& line = lines[index];
-        const unsigned address = leadingHexValue(line.size() > 3 ? line.substr(3, 4) : "");
+        const std::string_view line = lines[index];
+        const unsigned address =
+            leadingHexValue(line.size() > 3 ? line.substr(3, 4) : std::string_view());
         int column = static_cast<int>(address & 0xF) + 1;
         const bool sameRow = !grid.rows.empty() && column >= nextColumn && address >= rowBase &&
                              address - rowBase < 16;
@@ -92,7 +65,7 @@ HexReading readHexGrid(const std::string& bytes, ByteGrid& grid) {
                 grid.rows.push_back(emptyRow(fourDigits(rowBase)));
                 column = 1;
             }
-            const std::string cell = at < line.size() ? line.substr(at, 2) : std::string();
+            const std::string cell(at < line.size() ? line.substr(at, 2) : std::string_view());
             ByteRow& row = grid.rows.back();
             row.cells[static_cast<std::size_t>(column - 1)] = cell;
             row.characters[static_cast<std::size_t>(column - 1)] =

@@ -9,18 +9,10 @@ namespace korvex {
 namespace {
 
 void colourComments(TextControl& box, const std::string& text, std::int32_t commentColour) {
-    std::size_t from = 0;
-    while (true) {
-        const std::size_t semicolon = text.find(';', from);
-        if (semicolon == std::string::npos) return;
-        const std::size_t lineEnd = text.find("\r\n", semicolon + 1);
-        // The CR belongs to the comment; the next search starts at the LF.
-        const std::size_t end = lineEnd == std::string::npos ? text.size() : lineEnd + 1;
-        box.Select(static_cast<std::int32_t>(semicolon),
-                   static_cast<std::int32_t>(end - semicolon));
+    ForEachComment(text, [&](std::size_t start, std::size_t end) {
+        box.Select(static_cast<std::int32_t>(start), static_cast<std::int32_t>(end - start));
         box.SetSelColor(commentColour);
-        from = end;
-    }
+    });
 }
 
 }  // namespace

@@ -4,36 +4,19 @@
 #include <vector>
 
 #include "base/failure.h"
+#include "base/text.h"
 
 namespace korvex {
 namespace {
 
-int hexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    return -1;
-}
-
 // Only hex lines are read as numbers, so every digit is one.
 unsigned hexValue(std::string_view digits) {
-    unsigned value = 0;
-    for (const char c : digits)
-        value = value * 16 + static_cast<unsigned>(std::max(hexDigit(c), 0));
-    return value;
+    return static_cast<unsigned>(parseHexPrefix(digits));
 }
 
-std::vector<std::string_view> textLines(std::string_view bytes) {
-    std::vector<std::string_view> lines;
-    std::size_t start = 0;
-    while (start < bytes.size()) {
-        std::size_t end = bytes.find_first_of("\r\n", start);
-        if (end == std::string_view::npos) end = bytes.size();
-        lines.push_back(bytes.substr(start, end - start));
-        if (end + 1 < bytes.size() && bytes[end] == '\r' && bytes[end + 1] == '\n') ++end;
-        start = end + 1;
-    }
-    return lines;
+// As much of [at, at + count) as the line has; nothing past its end.
+std::string_view part(std::string_view line, std::size_t at, std::size_t count) {
+    return at < line.size() ? line.substr(at, count) : std::string_view();
 }
 
 }  // namespace
@@ -41,7 +24,7 @@ std::vector<std::string_view> textLines(std::string_view bytes) {
 bool IsHexLine(std::string_view line) {
     if (line.size() < 2 || line[0] != ':') return false;
     for (std::size_t at = 1; at < line.size(); ++at)
-        if (hexDigit(line[at]) < 0) return false;
+        if (hexDigitValue(line[at]) < 0) return false;
     return true;
 }
 
@@ -52,20 +35,20 @@ std::string LoadForCompare(const std::string& bytes, bool expandHex, unsigned ch
     for (const std::string_view line : lines) {
         // One line that isn't hex and the whole file is compared as it is.
         if (!IsHexLine(line)) return bytes;
-        const unsigned length = hexValue(line.substr(1, 2));
+        const unsigned length = hexValue(part(line, 1, 2));
         if (length == 0) continue;
-        const unsigned address = hexValue(line.substr(3, 4));
+        const unsigned address = hexValue(part(line, 3, 4));
         highest = std::max(highest, static_cast<long>(address + length) - 1);
     }
     std::string image(static_cast<std::size_t>(highest) + 1, static_cast<char>(fill));
     for (const std::string_view line : lines) {
-        if (hexValue(line.substr(1, 2)) == 0) continue;
-        std::size_t at = hexValue(line.substr(3, 4));
+        if (hexValue(part(line, 1, 2)) == 0) continue;
+        std::size_t at = hexValue(part(line, 3, 4));
         // The data from the tenth character to the third last: the line's
         // own length decides, not its length byte.
         for (std::size_t digit = 9; digit + 2 < line.size(); digit += 2) {
             if (at >= image.size()) throw RuntimeFailure(FailureNumber::IndexOutOfRange);
-            image[at++] = static_cast<char>(hexValue(line.substr(digit, 2)));
+            image[at++] = static_cast<char>(hexValue(part(line, digit, 2)));
         }
     }
     return image;

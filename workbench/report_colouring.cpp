@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "workbench/comment_colouring.h"
 #include "workbench/editor_guards.h"
 
 namespace korvex {
@@ -22,28 +23,20 @@ void ColourReport(TextControl& box, EditorFlags& flags, std::int32_t commentColo
     FlagGuard selection(flags.SuspendSelChange);
     OutOfSight hidden(box);
     const std::string text = box.Text();
-    std::size_t from = 0;
-    while (true) {
-        const std::size_t semicolon = text.find(';', from);
-        if (semicolon == std::string::npos) break;
-        const std::size_t lineEnd = text.find("\r\n", semicolon + 1);
-        // As in the editor: the CR belongs to the comment.
-        const std::size_t end = lineEnd == std::string::npos ? text.size() : lineEnd + 1;
+    ForEachComment(text, [&](std::size_t semicolon, std::size_t end) {
         box.Select(static_cast<std::int32_t>(semicolon),
                    static_cast<std::int32_t>(end - semicolon));
         box.SetSelFontName("Arial");
         const std::string_view stretch(text.data() + semicolon, end - semicolon);
         if (stretch.substr(0, kErrorMark.size()) == kErrorMark) {
             box.SetSelColor(kReportRed);
-        } else {
-            box.SetSelColor(commentColour);
-            // A comment may hold a normal part and, from the marker on, a red one.
-            const std::size_t mark = stretch.find(kErrorMark, 1);
-            if (mark != std::string_view::npos)
-                colourStretch(box, semicolon + mark, end, kReportRed);
+            return;
         }
-        from = end;
-    }
+        box.SetSelColor(commentColour);
+        // A comment may hold a normal part and, from the marker on, a red one.
+        const std::size_t mark = stretch.find(kErrorMark, 1);
+        if (mark != std::string_view::npos) colourStretch(box, semicolon + mark, end, kReportRed);
+    });
     const std::size_t head = text.find(kFindingsHead);
     if (head != std::string::npos)
         colourStretch(box, head, head + kFindingsHead.size(), kReportRed);

@@ -18,6 +18,7 @@
 #include "gui/compile_dialog.h"
 #include "gui/main_window.h"
 #include "gui/qt_text.h"
+#include "gui/twips.h"
 #include "workbench/captions.h"
 #include "workbench/colours.h"
 #include "workbench/compile_command.h"
@@ -25,20 +26,16 @@
 namespace korvex::gui {
 namespace {
 
-constexpr double kTwipsPerPixel = 15.0;
 // The dialog is never smaller than this, in twips.
 constexpr int kMinimumWidth = 5900;
 constexpr int kMinimumHeight = 4890;
 
-int pixels(std::int16_t twips) {
-    return static_cast<int>(twips / kTwipsPerPixel);
-}
-
-std::int16_t twips(int pixels) {
-    return static_cast<std::int16_t>(std::clamp(pixels * 15, -32768, 32767));
-}
-
 }  // namespace
+
+StoredPlace MainWindow::compilePlace() {
+    return {settings_.CompileWindowLeft, settings_.CompileWindowTop, settings_.CompileWindowWidth,
+            settings_.CompileWindowHeight};
+}
 
 CompileDialog* MainWindow::compileDialog() {
     if (compileDialog_ != nullptr) return compileDialog_;
@@ -46,11 +43,11 @@ CompileDialog* MainWindow::compileDialog() {
     compileFrame_ = area_->addSubWindow(compileDialog_);
     compileFrame_->setObjectName(QStringLiteral("frmCompileFrame"));
     compileFrame_->setWindowIcon(windowIcon());
-    compileFrame_->setMinimumSize(pixels(kMinimumWidth), pixels(kMinimumHeight));
-    compileFrame_->setGeometry(
-        pixels(settings_.CompileWindowLeft), pixels(settings_.CompileWindowTop),
-        std::max(pixels(settings_.CompileWindowWidth), pixels(kMinimumWidth)),
-        std::max(pixels(settings_.CompileWindowHeight), pixels(kMinimumHeight)));
+    compileFrame_->setMinimumSize(pixelsOfTwips(kMinimumWidth), pixelsOfTwips(kMinimumHeight));
+    const QRect place = compilePlace().inPixels();
+    compileFrame_->setGeometry(place.x(), place.y(),
+                               std::max(place.width(), pixelsOfTwips(kMinimumWidth)),
+                               std::max(place.height(), pixelsOfTwips(kMinimumHeight)));
     compileFrame_->installEventFilter(this);
     connect(compileDialog_, &CompileDialog::startRequested, this, &MainWindow::startCompile);
     connect(compileDialog_, &CompileDialog::abortRequested, this, &MainWindow::abortCompile);
@@ -78,11 +75,7 @@ void MainWindow::hideCompileDialog() {
 
 void MainWindow::storeCompilePlace() {
     if (compileFrame_ == nullptr || compileFrame_->isMinimized()) return;
-    const QRect place = compileFrame_->geometry();
-    settings_.CompileWindowLeft = twips(place.x());
-    settings_.CompileWindowTop = twips(place.y());
-    settings_.CompileWindowWidth = twips(place.width());
-    settings_.CompileWindowHeight = twips(place.height());
+    compilePlace().keep(compileFrame_->geometry());
 }
 
 void MainWindow::compileActiveWindow() {

@@ -21,25 +21,13 @@
 #include "gui/listing_window.h"
 #include "gui/main_window.h"
 #include "gui/qt_text.h"
+#include "gui/twips.h"
 #include "workbench/captions.h"
 #include "workbench/colours.h"
 #include "workbench/last_dirs.h"
 #include "workbench/viewer_requests.h"
 
 namespace korvex::gui {
-namespace {
-
-constexpr double kTwipsPerPixel = 15.0;
-
-int pixels(std::int16_t twips) {
-    return static_cast<int>(twips / kTwipsPerPixel);
-}
-
-std::int16_t twips(int pixels) {
-    return static_cast<std::int16_t>(std::clamp(pixels * 15, -32768, 32767));
-}
-
-}  // namespace
 
 QMdiSubWindow* MainWindow::addViewer(QWidget* viewer, const std::string& caption) {
     QMdiSubWindow* frame = area_->addSubWindow(viewer);
@@ -124,18 +112,19 @@ void MainWindow::openByteFile(bool hex) {
         addViewer(window, viewerCaption(hex ? "Hexdatei: " : text8("Binärdatei: "), chosen));
     // Hex and binary windows share one place.
     frame->setProperty("sharedPlace", true);
-    frame->setGeometry(pixels(settings_.HexWindowLeft), pixels(settings_.HexWindowTop),
-                       std::max(pixels(settings_.HexWindowWidth), 200),
-                       std::max(pixels(settings_.HexWindowHeight), 400 / 15 + 100));
+    const QRect place = sharedPlace().inPixels();
+    frame->setGeometry(place.x(), place.y(), std::max(place.width(), 200),
+                       std::max(place.height(), 120));
+}
+
+StoredPlace MainWindow::sharedPlace() {
+    return {settings_.HexWindowLeft, settings_.HexWindowTop, settings_.HexWindowWidth,
+            settings_.HexWindowHeight};
 }
 
 void MainWindow::storeSharedPlace(QMdiSubWindow* frame) {
     if (frame->isMinimized()) return;
-    const QRect place = frame->geometry();
-    settings_.HexWindowLeft = twips(place.x());
-    settings_.HexWindowTop = twips(place.y());
-    settings_.HexWindowWidth = twips(place.width());
-    settings_.HexWindowHeight = twips(place.height());
+    sharedPlace().keep(frame->geometry());
 }
 
 void MainWindow::openFileComparison() {

@@ -27,6 +27,8 @@ TEST(FileComparisonTest, HexFilesBecomeImagesAndEverythingElseStaysAsItIs) {
     EXPECT_EQ(LoadForCompare(oneRecord, false, 0xFF), oneRecord);
     EXPECT_EQ(LoadForCompare(oneRecord + "\r\n", true, 0xFF), oneRecord + "\r\n");  // blank line
     EXPECT_EQ(LoadForCompare("", true, 0xFF), "");
+    // A line too short for its address reads what it has: address 0.
+    EXPECT_EQ(LoadForCompare(":9", true, 0xFF), std::string(9, '\xFF'));
     // More data than the length byte promises has nowhere to go.
     EXPECT_THROW(LoadForCompare(":01000000010203FF\r\n", true, 0xFF), RuntimeFailure);
 }

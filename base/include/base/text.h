@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace korvex {
 
@@ -46,6 +47,10 @@ std::int64_t parseDecimal(std::string_view text, std::int64_t fallback = 0);
 
 // Reads unsigned hexadecimal digits; stops at the first character that is not one.
 std::int64_t parseHexPrefix(std::string_view text);
+
+// The lines of a text file as a line reader gives them: CR LF, a lone CR and
+// a lone LF each end a line, and a final line end makes no empty last line.
+std::vector<std::string_view> textLines(std::string_view text);
 
 bool startsWith(std::string_view text, std::string_view prefix);
 bool endsWith(std::string_view text, std::string_view suffix);

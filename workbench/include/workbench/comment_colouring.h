@@ -4,11 +4,28 @@
 // the assembler's syntax: a ";" in a string starts a comment too.
 
 #include <cstdint>
+#include <string>
 
 #include "workbench/editor_flags.h"
 #include "workbench/text_control.h"
 
 namespace korvex {
+
+// Calls `stretch(start, end)` for every comment of `text`: from a ";" up to
+// and with the CR of its line, or to the end of the text.
+template <typename Stretch>
+void ForEachComment(const std::string& text, Stretch stretch) {
+    std::size_t from = 0;
+    while (true) {
+        const std::size_t semicolon = text.find(';', from);
+        if (semicolon == std::string::npos) return;
+        const std::size_t lineEnd = text.find("\r\n", semicolon + 1);
+        // The next search starts at the LF.
+        const std::size_t end = lineEnd == std::string::npos ? text.size() : lineEnd + 1;
+        stretch(semicolon, end);
+        from = end;
+    }
+}
 
 // Colours every comment, each with the line end behind it; other text keeps
 // its colour. After a file is loaded.

@@ -18,6 +18,7 @@
 #include "disassembler/disassembler.h"
 #include "gui/editor_document.h"
 #include "gui/find_dialog.h"
+#include "gui/twips.h"
 #include "workbench/command_visibility.h"
 #include "workbench/document_table.h"
 #include "workbench/editor_flags.h"
@@ -118,6 +119,7 @@ class MainWindow : public QMainWindow, private Workspace {
     void showCompileDialog();
     void hideCompileDialog();
     void storeCompilePlace();
+    StoredPlace compilePlace();
     void startCompile();
     void abortCompile();
     void showLastReport();
@@ -129,6 +131,7 @@ class MainWindow : public QMainWindow, private Workspace {
     void openListing();
     void openByteFile(bool hex);
     void storeSharedPlace(QMdiSubWindow* frame);
+    StoredPlace sharedPlace();
     void showCpuFile();
     void openFileComparison();
     // The text of the active source or listing window, for editing and searching.
