@@ -15,13 +15,18 @@
 #include "gui/command_menus.h"
 #include "gui/extensions_dialog.h"
 #include "gui/find_dialog.h"
+#include "gui/insert_line_dialog.h"
+#include "gui/label_finder_dialog.h"
 #include "gui/listing_window.h"
 #include "gui/main_window.h"
+#include "gui/notes_window.h"
 #include "gui/qt_text.h"
 #include "gui/setup_dialog.h"
 #include "gui/window_arrangement.h"
 #include "workbench/block_edit.h"
 #include "workbench/captions.h"
+#include "workbench/colours.h"
+#include "workbench/label_finder.h"
 
 namespace korvex::gui {
 
@@ -78,6 +83,10 @@ void MainWindow::registerCommands() {
         {"MnuBinDump", [this] { openByteFile(false); }},
         {"MnCPUeinsehen", [this] { showCpuFile(); }},
         {"MnDateivergleich", [this] { openFileComparison(); }},
+        {"mnuELabelListe", [this] { findLabel(); }},
+        {"mnuWNotiz", [this] { showNotes(); }},
+        {"MnInclude", [this] { showInsertDialog(true); }},
+        {"MnMain", [this] { showInsertDialog(false); }},
         {"mnuSFind", [this] { openFindDialog(false); }},
         {"mnuSReplace", [this] { openFindDialog(true); }},
         {"mnuSFindNext", [this] { findNext(); }},
@@ -156,9 +165,10 @@ void MainWindow::notAvailable(const QString& name) {
 }
 
 void MainWindow::print() {
-    EditorWindow* editor = activeEditor();
-    if (editor == nullptr) return;
-    QTextEdit* text = editor->textEdit();
+    if (QTextEdit* text = activeTextEdit()) printText(text);
+}
+
+void MainWindow::printText(QTextEdit* text) {
     QPrinter printer;
     QPrintDialog dialog(&printer, this);
     dialog.setOption(QAbstractPrintDialog::PrintSelection, text->textCursor().hasSelection());
@@ -171,6 +181,50 @@ void MainWindow::print() {
     } else {
         text->print(&printer);
     }
+}
+
+void MainWindow::findLabel() {
+    EditorWindow* editor = activeEditor();
+    if (editor == nullptr) return;
+    TextControl& box = editor->textControl();
+    LabelFinderDialog dialog(CollectLabels(box.Text()), labelSortState_,
+                             settings_.Colours[kHexBorder], settings_.Colours[kHexContent], this);
+    if (labelFinderPlace_) dialog.move(*labelFinderPlace_);
+    dialog.exec();
+    labelFinderPlace_ = dialog.pos();
+    if (dialog.chosen().empty()) return;  // closed without a choice
+    const std::int32_t at = LabelPosition(box.Text(), dialog.chosen());
+    if (at < 0) return;
+    // To the end first, so that the line comes to the top of the view.
+    box.SetSelStart(box.TextLength());
+    box.SetSelStart(at);
+    editor->textEdit()->ensureCursorVisible();
+}
+
+void MainWindow::showNotes() {
+    if (notes_ == nullptr)
+        notes_ = new NotesWindow(
+            settings_, [this](QTextEdit* text) { printText(text); }, this);
+    notes_->showNotes();
+}
+
+void MainWindow::showInsertDialog(bool include) {
+    InsertLineDialog::Services services;
+    services.chooseFile = [this](const std::string& title) {
+        FileDialogRequest request;
+        request.title = title;
+        request.folder = settings_.sourceFolder;
+        request.filter = "Programmdateien (*.a51)|*.a51|Alle Dateien (*.*)|*.*";
+        return dialogs_.openFileName(request);
+    };
+    services.pasteAtCaret = [this] {
+        if (EditorWindow* editor = activeEditor()) editor->textEdit()->paste();
+    };
+    services.help = [this] { notAvailable(QStringLiteral("MnHelp")); };
+    auto* dialog = new InsertLineDialog(
+        include ? InsertLineDialog::Kind::Include : InsertLineDialog::Kind::PartOf,
+        std::move(services), this);
+    dialog->show();
 }
 
 void MainWindow::chooseFont() {

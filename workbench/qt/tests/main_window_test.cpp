@@ -128,10 +128,10 @@ TEST(MainWindow, TheToolbarAndTheMenusFollowTheActiveWindow) {
 
 TEST(MainWindow, CommandsOfLaterWindowsSayInGermanThatTheyArentThereYet) {
     Bench bench;
-    bench.trigger("MnMain");
+    bench.trigger("MnHelpKalender");
     ASSERT_EQ(bench.host.boxes.size(), 1u);
-    EXPECT_EQ(bench.host.boxes[0].text,
-              text8("„Projektdateinamen einfügen“ ist in dieser Version noch nicht verfügbar."));
+    EXPECT_NE(bench.host.boxes[0].text.find(text8("ist in dieser Version noch nicht verfügbar.")),
+              std::string::npos);
     QTest::mouseClick(bench.window.findChild<QLabel*>(QStringLiteral("Label1")), Qt::LeftButton);
     ASSERT_EQ(bench.host.boxes.size(), 2u);
     EXPECT_NE(bench.host.boxes[1].text.find("Controller festlegen"), std::string::npos);
@@ -210,6 +210,10 @@ TEST(MainWindow, EveryCommandHasItsCaptionKeyAndToolTip) {
                                  "MnuBinDump",
                                  "MnCPUeinsehen",
                                  "MnDateivergleich",
+                                 "mnuELabelListe",
+                                 "mnuWNotiz",
+                                 "MnInclude",
+                                 "MnMain",
                                  "MnCompComp",
                                  "MnCompStatus",
                                  "mnuSFind",

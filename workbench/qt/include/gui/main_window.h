@@ -39,6 +39,7 @@ namespace korvex::gui {
 class CommandMenus;
 class CommandToolbar;
 class CompileDialog;
+class NotesWindow;
 
 struct MainWindowServices {
     Host& host;
@@ -138,6 +139,11 @@ class MainWindow : public QMainWindow, private Workspace {
     QTextEdit* activeTextEdit() const;
     TextControl* activeTextControl() const;
 
+    void findLabel();
+    void showNotes();
+    void showInsertDialog(bool include);
+    void printText(QTextEdit* text);
+
     void openFindDialog(bool replacing);
     void findNext();
 
@@ -183,7 +189,10 @@ class MainWindow : public QMainWindow, private Workspace {
     FindState findState_;
     FindReplace find_{findState_, flags_, host_};
     QPointer<FindDialog> findDialog_;
-    const TextControl* lastFindText_ = nullptr;  // the text of the last active source window
+    const TextControl* lastFindText_ = nullptr;
+    std::int16_t labelSortState_ = 1;         // by label at the first opening of a run
+    std::optional<QPoint> labelFinderPlace_;  // where the label finder was last, within a run
+    QPointer<NotesWindow> notes_;             // the text of the last active source window
 };
 
 }  // namespace korvex::gui

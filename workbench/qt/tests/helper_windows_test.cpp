@@ -1,0 +1,116 @@
+// The editor's helpers: the label finder with its lasting sort, the notes
+// with their one undo, and the lines that the insert dialogs write.
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTimer>
+
+#include "base/cp1252.h"
+#include "gui/insert_line_dialog.h"
+#include "gui/label_finder_dialog.h"
+#include "gui/notes_window.h"
+#include "main_window_fixture.h"
+
+namespace korvex::gui {
+namespace {
+
+// Runs `act` on the label finder once it is open, then lets the command go on.
+void onLabelFinder(const std::function<void(LabelFinderDialog&)>& act) {
+    QTimer::singleShot(0, [act] {
+        auto* dialog = qobject_cast<LabelFinderDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+    });
+}
+
+QStringList column(const LabelFinderDialog& dialog, int which) {
+    QStringList texts;
+    for (int row = 0; row < dialog.grid()->rowCount(); ++row)
+        texts << dialog.grid()->item(row, which)->text();
+    return texts;
+}
+
+TEST(HelperWindows, TheLabelFinderJumpsAndKeepsItsSortAcrossOpenings) {
+    Bench bench;
+    const std::string text = "zurueck:\r\n\tnop\r\nanfang: ; los\r\n\tsjmp zurueck\r\n";
+    bench.window.activeEditor()->setSourceText(text);
+    onLabelFinder([](LabelFinderDialog& dialog) {
+        // The first opening sorts by label.
+        EXPECT_EQ(column(dialog, 1), (QStringList{"anfang: ; los", "zurueck:"}));
+        EXPECT_EQ(dialog.findChild<QAction*>(QStringLiteral("MnSort"))->text(),
+                  QStringLiteral("Res&ortieren"));
+        dialog.grid()->selectRow(0);
+        dialog.findChild<QPushButton*>(QStringLiteral("LFCmd1"))->click();
+    });
+    bench.trigger("mnuELabelListe");
+    EXPECT_EQ(bench.window.activeEditor()->textControl().SelStart(), 16);
+
+    onLabelFinder([](LabelFinderDialog& dialog) {
+        dialog.findChild<QAction*>(QStringLiteral("MnSort"))
+            ->trigger();  // back to the text's order
+        EXPECT_EQ(column(dialog, 0), (QStringList{"1", "2"}));
+        dialog.findChild<QPushButton*>(QStringLiteral("LFCmd2"))->click();
+    });
+    bench.trigger("mnuELabelListe");
+    EXPECT_EQ(bench.window.activeEditor()->textControl().SelStart(), 16);  // ESC: no jump
+    onLabelFinder([](LabelFinderDialog& dialog) {
+        EXPECT_EQ(column(dialog, 1), (QStringList{"zurueck:", "anfang: ; los"}));
+        EXPECT_EQ(dialog.findChild<QAction*>(QStringLiteral("MnSort"))->text(),
+                  QStringLiteral("S&ortieren"));
+        dialog.reject();
+    });
+    bench.trigger("mnuELabelListe");
+}
+
+TEST(HelperWindows, NotesUndoOnceAndOutliveTheirWindow) {
+    Bench bench;
+    bench.trigger("mnuWNotiz");
+    auto* notes = bench.window.findChild<NotesWindow*>(QStringLiteral("NotizFrm"));
+    ASSERT_NE(notes, nullptr);
+    EXPECT_EQ(notes->windowTitle(), QStringLiteral("Notizen"));
+    EXPECT_FALSE(notes->button(1)->isEnabled());
+    EXPECT_FALSE(notes->button(7)->isEnabled());
+    notes->text()->setPlainText(QStringLiteral("Port 1 prüfen"));
+    notes->text()->selectAll();
+    EXPECT_TRUE(notes->button(2)->isEnabled());
+    notes->button(2)->trigger();  // delete the selection
+    EXPECT_EQ(notes->text()->toPlainText(), QString());
+    notes->button(5)->trigger();
+    EXPECT_EQ(notes->text()->toPlainText(), QStringLiteral("Port 1 prüfen"));
+    EXPECT_EQ(notes->text()->textCursor().selectedText(), QStringLiteral("Port 1 prüfen"));
+    notes->button(10)->trigger();
+    EXPECT_FALSE(notes->isVisible());
+    bench.trigger("mnuWNotiz");
+    EXPECT_TRUE(notes->isVisible());
+    EXPECT_EQ(notes->text()->toPlainText(), QStringLiteral("Port 1 prüfen"));
+}
+
+TEST(HelperWindows, InsertDialogsWriteTheLineAtTheCaret) {
+    Bench bench;
+    bench.window.activeEditor()->setSourceText("nop\r\n");
+    bench.trigger("MnInclude");
+    auto* dialog = bench.window.findChild<InsertLineDialog*>(QStringLiteral("IncludeFrm"));
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->line()->text(), QStringLiteral("#Include"));
+    bench.dialogs.answers = {"/tmp/teil.a51"};
+    dialog->findChild<QPushButton*>(QStringLiteral("Command1"))->click();
+    EXPECT_EQ(bench.dialogs.requests.back().title, text8("Include-Datei öffnen"));
+    EXPECT_EQ(dialog->line()->text(), QStringLiteral("#Include '/tmp/teil.a51'"));
+    dialog->findChild<QPushButton*>(QStringLiteral("Command1"))->click();  // cancelled
+    EXPECT_EQ(dialog->line()->text(), QStringLiteral("#Include '/tmp/teil.a51'"));
+    dialog->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
+    EXPECT_EQ(bench.window.openWindowText("Unbenannt 1"), "#Include '/tmp/teil.a51'nop\r\n");
+
+    bench.trigger("MnMain");
+    auto* project = bench.window.findChild<InsertLineDialog*>(QStringLiteral("Partoffrm"));
+    ASSERT_NE(project, nullptr);
+    EXPECT_EQ(project->windowTitle(), QStringLiteral("Projektdatei einfügen"));
+    EXPECT_EQ(project->line()->text(), QStringLiteral("#Part of "));
+}
+
+}  // namespace
+}  // namespace korvex::gui
