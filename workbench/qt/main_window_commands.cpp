@@ -2,6 +2,7 @@
 // to a window that isn't built yet, and says so.
 
 #include <QFontDialog>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPrintDialog>
@@ -13,6 +14,7 @@
 
 #include "base/cp1252.h"
 #include "gui/command_menus.h"
+#include "gui/controller_dialog.h"
 #include "gui/extensions_dialog.h"
 #include "gui/find_dialog.h"
 #include "gui/insert_line_dialog.h"
@@ -26,6 +28,7 @@
 #include "workbench/block_edit.h"
 #include "workbench/captions.h"
 #include "workbench/colours.h"
+#include "workbench/controller_choice.h"
 #include "workbench/label_finder.h"
 
 namespace korvex::gui {
@@ -84,6 +87,7 @@ void MainWindow::registerCommands() {
         {"MnCPUeinsehen", [this] { showCpuFile(); }},
         {"MnDateivergleich", [this] { openFileComparison(); }},
         {"mnuELabelListe", [this] { findLabel(); }},
+        {"MnuController", [this] { chooseController(); }},
         {"mnuWNotiz", [this] { showNotes(); }},
         {"MnInclude", [this] { showInsertDialog(true); }},
         {"MnMain", [this] { showInsertDialog(false); }},
@@ -199,6 +203,21 @@ void MainWindow::findLabel() {
     box.SetSelStart(box.TextLength());
     box.SetSelStart(at);
     editor->textEdit()->ensureCursorVisible();
+}
+
+void MainWindow::chooseController() {
+    const std::vector<std::string> controllers = AvailableControllers(programFolder_);
+    if (controllers.empty()) {
+        host_.messageBox(std::string(kMainCaption),
+                         "Keine CPU-Datei im Programmverzeichnis vorhanden.", MessageButtons::Ok,
+                         MessageIcon::None);
+        return;
+    }
+    ControllerDialog dialog(controllers, settings_.ControllerName,
+                            settings_.Colours[kComparisonBackground], this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    settings_.ControllerName = dialog.chosen();
+    controllerLabel_->setText(fromCp1252(settings_.ControllerName));
 }
 
 void MainWindow::showNotes() {

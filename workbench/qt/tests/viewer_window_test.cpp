@@ -5,10 +5,12 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QTimer>
 
 #include "base/cp1252.h"
 #include "base/files.h"
@@ -159,6 +161,28 @@ TEST(ViewerWindow, AHexFileComparesWithItsBinaryImage) {
     qobject_cast<QCheckBox*>(part("ChkHexumwandlung"))->click();
     compare->click();
     EXPECT_EQ(list->toPlainText().count(QLatin1Char('\n')), 6);
+}
+
+TEST(ViewerWindow, TheControllerChosenIsTheOneWhoseDriverIsShown) {
+    ViewerBench bench;
+    bench.folder.write("80C552.cpu", "; 552\r\n");
+    bench.folder.write("C515.cpu", "; 515\r\n");
+    QTimer::singleShot(0, [] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Controllerwahl"));
+        auto* combo = dialog->findChild<QComboBox*>(QStringLiteral("Combo1"));
+        EXPECT_EQ(combo->count(), 2);
+        combo->setCurrentIndex(1);
+        dialog->findChild<QPushButton*>(QStringLiteral("Command1"))->click();
+    });
+    QTest::mouseClick(bench.window.findChild<QLabel*>(QStringLiteral("Label1")), Qt::LeftButton);
+    EXPECT_EQ(bench.window.settings().ControllerName, "C515");
+    EXPECT_EQ(bench.window.findChild<QLabel*>(QStringLiteral("Label1"))->text(),
+              QStringLiteral("C515"));
+    bench.trigger("MnCPUeinsehen");
+    EXPECT_EQ(bench.viewer()->findChild<QPlainTextEdit*>()->toPlainText(),
+              QStringLiteral("; 515\n"));
 }
 
 }  // namespace

@@ -140,6 +140,7 @@ class MainWindow : public QMainWindow, private Workspace {
     TextControl* activeTextControl() const;
 
     void findLabel();
+    void chooseController();
     void showNotes();
     void showInsertDialog(bool include);
     void printText(QTextEdit* text);
