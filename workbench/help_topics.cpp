@@ -113,9 +113,6 @@ constexpr CommandTopic kRegisterTopics[] = {
     {"MnHelpReset", 140},
 };
 
-// The compile dialog's help.
-constexpr int kCompileTopic = 100;
-
 HelpRequest topic(std::string file, int number) {
     HelpRequest request;
     request.kind = HelpRequest::Kind::Topic;
@@ -156,7 +153,6 @@ HelpRequest HelpForCommand(std::string_view command, const std::string& controll
     if (command == "MnHelpSFR") return contents(registers);
     for (const CommandTopic& entry : kRegisterTopics)
         if (entry.command == command) return topic(registers, entry.topic);
-    if (command == "frmCompile") return topic(std::string(kMainHelpFile), kCompileTopic);
     if (command == "MnHelpHilfe") return contents(std::string(kMainHelpFile));
     HelpRequest window;
     window.kind = HelpRequest::Kind::Window;
@@ -165,7 +161,7 @@ HelpRequest HelpForCommand(std::string_view command, const std::string& controll
 }
 
 std::vector<int> MainHelpTopics() {
-    std::set<int> topics{kCompileTopic};
+    std::set<int> topics;
     for (const WordTopic& entry : wordTopics()) topics.insert(entry.topic);
     for (const CommandTopic& entry : kCommandTopics) topics.insert(entry.topic);
     return {topics.begin(), topics.end()};

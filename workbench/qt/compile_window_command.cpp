@@ -53,7 +53,7 @@ CompileDialog* MainWindow::compileDialog() {
     connect(compileDialog_, &CompileDialog::abortRequested, this, &MainWindow::abortCompile);
     connect(compileDialog_, &CompileDialog::closeRequested, this, &MainWindow::hideCompileDialog);
     connect(compileDialog_, &CompileDialog::helpRequested, this,
-            [this](int) { notAvailable(QStringLiteral("MnHelp")); });
+            [this](int) { showHelpFor("frmCompile"); });
     return compileDialog_;
 }
 

@@ -96,7 +96,7 @@ void MainWindow::disassemble() {
 
 void MainWindow::configureDisassembler() {
     DisassemblerOptionsDialog dialog(
-        disassemblerOptions_, [this](int) { notAvailable(QStringLiteral("MnHelp")); }, this);
+        disassemblerOptions_, [this](int) { showHelpFor("frmDisassKonfig"); }, this);
     dialog.exec();
 }
 

@@ -67,6 +67,10 @@ ExtensionsDialog::ExtensionsDialog(Settings& settings, Host& host, QWidget* pare
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(defaults, &QPushButton::clicked, this, &ExtensionsDialog::putDefaults);
     connect(help, &QPushButton::clicked, this, [this] {
+        if (help_) {
+            help_();
+            return;
+        }
         host_.messageBox(std::string(kMainCaption),
                          toCp1252(QStringLiteral("Die Hilfe ist in dieser Version noch nicht "
                                                  "verfügbar.")),

@@ -174,6 +174,7 @@ DocumentWindow* MainWindow::createDocumentWindow() {
     frames_.emplace(frame, std::move(document));
 
     editor->setHost(&host_);
+    editor->setHelpHandler([this](const std::string& word) { showHelpForWord(word); });
     connect(editor, &EditorWindow::editMenuRequested, this, [this](const QPoint& at) {
         if (QMenu* edit = menus_->menu(QStringLiteral("mnuEdit"))) edit->popup(at);
     });

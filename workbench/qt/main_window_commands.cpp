@@ -87,6 +87,7 @@ void MainWindow::registerCommands() {
         {"MnCPUeinsehen", [this] { showCpuFile(); }},
         {"MnDateivergleich", [this] { openFileComparison(); }},
         {"mnuELabelListe", [this] { findLabel(); }},
+        {"MnHelpHilfe", [this] { showHelpFor("MnHelpHilfe"); }},
         {"MnuController", [this] { chooseController(); }},
         {"mnuWNotiz", [this] { showNotes(); }},
         {"MnInclude", [this] { showInsertDialog(true); }},
@@ -107,6 +108,7 @@ void MainWindow::registerCommands() {
         {"mnuWTile", [this] { tileOneUnderAnother(area_); }},
         {"mnuWArrange", [this] { arrangeIcons(area_); }},
     };
+    registerHelpCommands();
 }
 
 QTextEdit* MainWindow::activeTextEdit() const {
@@ -149,6 +151,34 @@ void MainWindow::findNext() {
         return;
     }
     if (outcome.backToStart && findDialog_ == nullptr) activeTextEdit()->setFocus();
+}
+
+// The help commands that show a page; their topics are the help's contract.
+void MainWindow::registerHelpCommands() {
+    for (const char* name : {"MnHelpAIFStrukturen",
+                             "MnHelpAForStrukturen",
+                             "MnHelpALoopStrukturen",
+                             "MnHelpABefehlssyntax",
+                             "MnHelpAZahlen",
+                             "MnHelpABerechnungen",
+                             "MnHelpAVariablen",
+                             "MnHelpAExclude",
+                             "MnHelpALabel",
+                             "MnHelpATabellen",
+                             "MnHelpCPUanweisung",
+                             "MnHelpAUse",
+                             "MnHelpAAdresszuweisung",
+                             "MnHelpAMakro",
+                             "MnHelpAIncludedatei",
+                             "MnHelpAPartof",
+                             "MnHelpSFR",
+                             "MnHelpSFRBit",
+                             "MnHelpInterrupt",
+                             "MnHelpReset",
+                             "MnHelpANSI",
+                             "MnHelpCopyright",
+                             "MnHelpRechner"})
+        handlers_.insert(QString::fromLatin1(name), [this, name] { showHelpFor(name); });
 }
 
 void MainWindow::runCommand(const QString& name) {
@@ -239,7 +269,7 @@ void MainWindow::showInsertDialog(bool include) {
     services.pasteAtCaret = [this] {
         if (EditorWindow* editor = activeEditor()) editor->textEdit()->paste();
     };
-    services.help = [this] { notAvailable(QStringLiteral("MnHelp")); };
+    services.help = [this, include] { showHelpForWord(include ? "#INCLUDE" : "#PART"); };
     auto* dialog = new InsertLineDialog(
         include ? InsertLineDialog::Kind::Include : InsertLineDialog::Kind::PartOf,
         std::move(services), this);
@@ -267,11 +297,13 @@ void MainWindow::chooseFont() {
 
 void MainWindow::editExtensions() {
     ExtensionsDialog dialog(settings_, host_, this);
+    dialog.setHelp([this] { showHelpFor("frmEndungen"); });
     dialog.exec();
 }
 
 void MainWindow::editSetup() {
     SetupDialog dialog(settings_, host_, *toolbar_, this);
+    dialog.setHelp([this] { showHelpFor("FrmSetup"); });
     connect(&dialog, &SetupDialog::coloursChanged, this, &MainWindow::showColours);
     connect(&dialog, &SetupDialog::applied, this, &MainWindow::settingsApplied);
     dialog.exec();

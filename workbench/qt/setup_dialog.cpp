@@ -74,6 +74,10 @@ SetupDialog::SetupDialog(Settings& settings, Host& host, CommandToolbar& toolbar
     connect(apply, &QPushButton::clicked, this, &SetupDialog::apply);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(help, &QPushButton::clicked, this, [this] {
+        if (help_) {
+            help_();
+            return;
+        }
         host_.messageBox(std::string(kMainCaption),
                          toCp1252(QStringLiteral("Die Hilfe zur Seite „%1“ ist in dieser Version "
                                                  "noch nicht verfügbar.")

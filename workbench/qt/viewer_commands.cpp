@@ -62,6 +62,7 @@ void MainWindow::openListing() {
         return;
     }
     auto* listing = new ListingWindow(flags_, settings_);
+    listing->setHelp([this](const std::string& word) { showHelpForWord(word); });
     connect(listing, &ListingWindow::editMenuRequested, this, [this](const QPoint& at) {
         if (QMenu* edit = menus_->menu(QStringLiteral("mnEdit"))) edit->popup(at);
     });

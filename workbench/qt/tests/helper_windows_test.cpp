@@ -7,9 +7,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTextBrowser>
 #include <QTimer>
+#include <filesystem>
 
 #include "base/cp1252.h"
+#include "gui/help_window.h"
 #include "gui/insert_line_dialog.h"
 #include "gui/label_finder_dialog.h"
 #include "gui/notes_window.h"
@@ -110,6 +113,33 @@ TEST(HelperWindows, InsertDialogsWriteTheLineAtTheCaret) {
     ASSERT_NE(project, nullptr);
     EXPECT_EQ(project->windowTitle(), QStringLiteral("Projektdatei einfügen"));
     EXPECT_EQ(project->line()->text(), QStringLiteral("#Part of "));
+}
+
+TEST(HelperWindows, F1AndTheHelpMenuShowTheirPages) {
+    Bench bench;
+    std::filesystem::copy(KORVEX_HELP_DIR, bench.folder.path() + "help",
+                          std::filesystem::copy_options::recursive);
+    bench.window.activeEditor()->setSourceText("\tmov a,#1\r\n");
+    bench.window.activeEditor()->textControl().SetSelStart(3);  // inside "mov"
+    QApplication::setActiveWindow(&bench.window);
+    bench.text()->setFocus();
+    QTest::keyClick(bench.text(), Qt::Key_F1);
+    auto* help = bench.window.findChild<HelpWindow*>(QStringLiteral("frmHilfe"));
+    ASSERT_NE(help, nullptr);
+    EXPECT_TRUE(
+        help->browser()->source().toLocalFile().endsWith(QStringLiteral("korvex/1310.html")));
+    EXPECT_TRUE(help->browser()->toPlainText().contains(QStringLiteral("MOV – Daten übertragen")));
+
+    // The register help follows the controller.
+    bench.window.settings().ControllerName = "80C552";
+    bench.trigger("MnHelpInterrupt");
+    EXPECT_TRUE(
+        help->browser()->source().toLocalFile().endsWith(QStringLiteral("552sfr/120.html")));
+    EXPECT_TRUE(help->browser()->toPlainText().contains(QStringLiteral("SIO1")));
+    bench.trigger("MnHelpHilfe");
+    EXPECT_TRUE(
+        help->browser()->toPlainText().contains(QStringLiteral("Der Befehlssatz des 8051")));
+    EXPECT_TRUE(bench.host.boxes.empty());
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <array>
+#include <functional>
 
 #include "base/host.h"
 #include "workbench/settings.h"
@@ -17,8 +18,11 @@ class ExtensionsDialog : public QDialog {
 
   public:
     ExtensionsDialog(Settings& settings, Host& host, QWidget* parent = nullptr);
+    // The help button shows this; without it, it says there is none yet.
+    void setHelp(std::function<void()> help) { help_ = std::move(help); }
 
   private:
+    std::function<void()> help_;
     void store();
     void putDefaults();
 

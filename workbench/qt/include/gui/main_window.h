@@ -24,6 +24,7 @@
 #include "workbench/editor_flags.h"
 #include "workbench/file_commands.h"
 #include "workbench/find_replace.h"
+#include "workbench/help_topics.h"
 #include "workbench/recent_files.h"
 #include "workbench/settings.h"
 
@@ -39,6 +40,7 @@ namespace korvex::gui {
 class CommandMenus;
 class CommandToolbar;
 class CompileDialog;
+class HelpWindow;
 class NotesWindow;
 
 struct MainWindowServices {
@@ -103,6 +105,7 @@ class MainWindow : public QMainWindow, private Workspace {
 
     void buildStatusBar();
     void registerCommands();
+    void registerHelpCommands();
     void applyStartSettings();
     EditorDocument* documentOf(QMdiSubWindow* frame) const;
     void windowActivated(QMdiSubWindow* frame);
@@ -138,6 +141,11 @@ class MainWindow : public QMainWindow, private Workspace {
     // The text of the active source or listing window, for editing and searching.
     QTextEdit* activeTextEdit() const;
     TextControl* activeTextControl() const;
+
+    void showHelp(const HelpRequest& request);
+    void showHelpFor(const char* command);
+    void showHelpForWord(const std::string& word);
+    void startCalculator();
 
     void findLabel();
     void chooseController();
@@ -193,7 +201,8 @@ class MainWindow : public QMainWindow, private Workspace {
     const TextControl* lastFindText_ = nullptr;
     std::int16_t labelSortState_ = 1;         // by label at the first opening of a run
     std::optional<QPoint> labelFinderPlace_;  // where the label finder was last, within a run
-    QPointer<NotesWindow> notes_;             // the text of the last active source window
+    QPointer<NotesWindow> notes_;
+    QPointer<HelpWindow> helpWindow_;  // the text of the last active source window
 };
 
 }  // namespace korvex::gui

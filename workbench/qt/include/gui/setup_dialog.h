@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <array>
+#include <functional>
 
 #include "base/host.h"
 #include "workbench/settings.h"
@@ -26,6 +27,8 @@ class SetupDialog : public QDialog {
 
   public:
     SetupDialog(Settings& settings, Host& host, CommandToolbar& toolbar, QWidget* parent = nullptr);
+    // The help button shows this; without it, it says there is none yet.
+    void setHelp(std::function<void()> help) { help_ = std::move(help); }
 
     void done(int result) override;
 
@@ -36,6 +39,7 @@ class SetupDialog : public QDialog {
     void applied(bool wrappingChanged, bool bookmarksTurnedOff);
 
   private:
+    std::function<void()> help_;
     QWidget* toolbarPage();
     QWidget* coloursPage();
     QWidget* editorPage();
