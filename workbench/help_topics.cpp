@@ -105,6 +105,11 @@ constexpr CommandTopic kCommandTopics[] = {
     {"MnHelpAPartof", 1795},
     {"MnHelpANSI", 1850},
     {"MnHelpCopyright", 1800},
+    // The help buttons of the dialogs.
+    {"frmCompile", 100},
+    {"frmDisassKonfig", 1830},
+    {"frmEndungen", 1860},
+    {"FrmSetup", 1870},
 };
 
 constexpr CommandTopic kRegisterTopics[] = {

@@ -34,6 +34,7 @@ TEST(HelpTopicsTest, TheControllerChoosesTheRegisterHelp) {
     EXPECT_EQ(HelpForCommand("MnHelpSFR", "C515").kind, HelpRequest::Kind::Contents);
     EXPECT_EQ(HelpForCommand("MnHelpAMakro", "8032").topic, 1710);
     EXPECT_EQ(HelpForCommand("MnHelpKalender", "8032").kind, HelpRequest::Kind::Window);
+    EXPECT_EQ(HelpForCommand("frmCompile", "8032").topic, 100);
     // Every topic a command names is among the main help's topics.
     const std::vector<int> topics = MainHelpTopics();
     for (const int number : {100, 1090, 1780, 1800, 1810, 1850})
