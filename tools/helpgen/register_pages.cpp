@@ -27,7 +27,8 @@ struct Driver {
 Driver readDriver(const std::string& path) {
     Driver driver;
     std::vector<Entry>* section = nullptr;
-    for (std::string_view raw : textLines(readWholeFile(path))) {
+    const std::string file = readWholeFile(path);  // the lines are views into it
+    for (std::string_view raw : textLines(file)) {
         const std::string line = toUtf8(raw);
         if (driver.title.empty() && startsWith(line, ";"))
             driver.title = trimBlanks(line.substr(1));

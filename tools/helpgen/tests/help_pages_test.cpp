@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "assembler/assembler.h"
+#include "assembler/cpu_driver.h"
 #include "base/cp1252.h"
 #include "base/files.h"
 #include "base/host.h"
@@ -43,6 +44,16 @@ TEST(HelpPages, EveryTopicHasItsPage) {
         for (const char* command : {"MnHelpSFRBit", "MnHelpInterrupt", "MnHelpReset"})
             EXPECT_TRUE(pageExists(HelpForCommand(command, chip))) << chip << " " << command;
     }
+    // A family's pages hold every name of its driver, as the assembler reads them.
+    const DriverReading driver = readCpuDriverFile(std::string(KORVEX_DRIVER_FOLDER) + "C517.cpu");
+    const std::string family = HelpPagePath(kProgramFolder, HelpForCommand("MnHelpSFR", "C517"));
+    const std::string sfrs = readWholeFile(family);
+    const std::string bits =
+        readWholeFile(HelpPagePath(kProgramFolder, HelpForCommand("MnHelpSFRBit", "C517")));
+    for (const DriverName& sfr : driver.driver.sfrs)
+        EXPECT_NE(sfrs.find("<code>" + sfr.name + "</code>"), std::string::npos) << sfr.name;
+    for (const DriverName& bit : driver.driver.bits)
+        EXPECT_NE(bits.find("<code>" + bit.name + "</code>"), std::string::npos) << bit.name;
 }
 
 // The examples as a user copies them: unescaped, in Windows-1252.
