@@ -1,6 +1,7 @@
 // The commands of frmMDI by name. A command without a handler here belongs
 // to a window that isn't built yet, and says so.
 
+#include <QDateTime>
 #include <QFontDialog>
 #include <QLabel>
 #include <QMdiArea>
@@ -22,7 +23,9 @@
 #include "gui/listing_window.h"
 #include "gui/main_window.h"
 #include "gui/notes_window.h"
+#include "gui/pastime_windows.h"
 #include "gui/qt_text.h"
+#include "gui/reference_window.h"
 #include "gui/setup_dialog.h"
 #include "gui/window_arrangement.h"
 #include "workbench/block_edit.h"
@@ -88,6 +91,19 @@ void MainWindow::registerCommands() {
         {"MnDateivergleich", [this] { openFileComparison(); }},
         {"mnuELabelListe", [this] { findLabel(); }},
         {"MnHelpHilfe", [this] { showHelpFor("MnHelpHilfe"); }},
+        {"MnHelpBefehlssatz", [this] { showReference(); }},
+        {"MnHelpKalender", [this] { makeCalendarWindow(this)->show(); }},
+        {"MnSpiel",
+         [this] {
+             (new PuzzleWindow(static_cast<std::uint32_t>(QDateTime::currentMSecsSinceEpoch()),
+                               this))
+                 ->show();
+         }},
+        {"MnHelpVersion",
+         [this] {
+             AboutDialog about(this);
+             about.exec();
+         }},
         {"MnuController", [this] { chooseController(); }},
         {"mnuWNotiz", [this] { showNotes(); }},
         {"MnInclude", [this] { showInsertDialog(true); }},
@@ -233,6 +249,24 @@ void MainWindow::findLabel() {
     box.SetSelStart(box.TextLength());
     box.SetSelStart(at);
     editor->textEdit()->ensureCursorVisible();
+}
+
+void MainWindow::showReference() {
+    if (reference_ != nullptr) {
+        reference_->raise();
+        reference_->activateWindow();
+        return;
+    }
+    reference_ = new ReferenceWindow(
+        settings_.ReferenceWindowTab, [this](const std::string& word) { showHelpForWord(word); },
+        this);
+    connect(reference_, &ReferenceWindow::closing, this, [this](const QPoint& place, int tab) {
+        settings_.ReferenceWindowLeft = place.x() * 15;
+        settings_.ReferenceWindowTop = place.y() * 15;
+        settings_.ReferenceWindowTab = static_cast<std::int16_t>(tab);
+    });
+    reference_->move(settings_.ReferenceWindowLeft / 15, settings_.ReferenceWindowTop / 15);
+    reference_->show();
 }
 
 void MainWindow::chooseController() {

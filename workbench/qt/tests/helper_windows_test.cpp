@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTextBrowser>
 #include <QTimer>
@@ -16,6 +17,8 @@
 #include "gui/insert_line_dialog.h"
 #include "gui/label_finder_dialog.h"
 #include "gui/notes_window.h"
+#include "gui/pastime_windows.h"
+#include "gui/reference_window.h"
 #include "main_window_fixture.h"
 
 namespace korvex::gui {
@@ -139,6 +142,43 @@ TEST(HelperWindows, F1AndTheHelpMenuShowTheirPages) {
     bench.trigger("MnHelpHilfe");
     EXPECT_TRUE(
         help->browser()->toPlainText().contains(QStringLiteral("Der Befehlssatz des 8051")));
+    EXPECT_TRUE(bench.host.boxes.empty());
+}
+
+TEST(HelperWindows, TheReferenceKeepsItsTabAndThePastimesOpen) {
+    Bench bench;
+    bench.trigger("MnHelpBefehlssatz");
+    auto* reference = bench.window.findChild<ReferenceWindow*>(QStringLiteral("frmBefehle"));
+    ASSERT_NE(reference, nullptr);
+    auto* arithmetic = qobject_cast<QTableWidget*>(reference->tabs()->widget(0));
+    EXPECT_EQ(arithmetic->item(0, 0)->text(), QStringLiteral("INC A"));
+    // Every one of the 255 opcodes stands in some row.
+    int rows = 0;
+    for (int tab = 0; tab < reference->tabs()->count(); ++tab)
+        rows += qobject_cast<QTableWidget*>(reference->tabs()->widget(tab))->rowCount();
+    EXPECT_GT(rows, 100);
+    reference->tabs()->setCurrentIndex(4);
+    reference->close();
+    Bench::settle();
+    EXPECT_EQ(bench.window.settings().ReferenceWindowTab, 4);
+    bench.trigger("MnHelpBefehlssatz");
+    reference = bench.window.findChild<ReferenceWindow*>(QStringLiteral("frmBefehle"));
+    ASSERT_NE(reference, nullptr);
+    EXPECT_EQ(reference->tabs()->currentIndex(), 4);
+
+    bench.trigger("MnSpiel");
+    auto* puzzle = bench.window.findChild<PuzzleWindow*>(QStringLiteral("frmSpiel"));
+    ASSERT_NE(puzzle, nullptr);
+    EXPECT_FALSE(puzzle->puzzle().solved());
+    bench.trigger("MnHelpKalender");
+    EXPECT_NE(bench.window.findChild<QWidget*>(QStringLiteral("frmKalender")), nullptr);
+    QTimer::singleShot(0, [] {
+        QWidget* about = QApplication::activeModalWidget();
+        ASSERT_NE(about, nullptr);
+        EXPECT_EQ(about->windowTitle(), QStringLiteral("Info"));
+        about->close();
+    });
+    bench.trigger("MnHelpVersion");
     EXPECT_TRUE(bench.host.boxes.empty());
 }
 

@@ -41,6 +41,7 @@ class CommandMenus;
 class CommandToolbar;
 class CompileDialog;
 class HelpWindow;
+class ReferenceWindow;
 class NotesWindow;
 
 struct MainWindowServices {
@@ -149,6 +150,7 @@ class MainWindow : public QMainWindow, private Workspace {
 
     void findLabel();
     void chooseController();
+    void showReference();
     void showNotes();
     void showInsertDialog(bool include);
     void printText(QTextEdit* text);
@@ -202,7 +204,8 @@ class MainWindow : public QMainWindow, private Workspace {
     std::int16_t labelSortState_ = 1;         // by label at the first opening of a run
     std::optional<QPoint> labelFinderPlace_;  // where the label finder was last, within a run
     QPointer<NotesWindow> notes_;
-    QPointer<HelpWindow> helpWindow_;  // the text of the last active source window
+    QPointer<HelpWindow> helpWindow_;
+    QPointer<ReferenceWindow> reference_;  // the text of the last active source window
 };
 
 }  // namespace korvex::gui
