@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(cmake ninja-build g++ clang clang-format pkg-config libgtest-dev libbenchmark-dev as31 srecord sdcc-ucsim d52
-          qt6-base-dev qt6-translations-l10n libgl-dev)
+          qt6-base-dev qt6-svg-dev qt6-translations-l10n libgl-dev)
 
 missing=()
 for package in "${packages[@]}"; do

@@ -1,6 +1,6 @@
 // Makes the generated part of the help: the instruction pages and the
-// contents of the main help, and the register help of every controller
-// family.
+// contents of the main help, the register help of every controller family
+// and the pin pictures.
 //   korvex_helpgen HELP_FOLDER DRIVER_FOLDER
 // Both folders end in "/"; the help folder gets korvex/ and one folder per
 // register help file.
@@ -11,6 +11,7 @@
 #include "contents_page.h"
 #include "html.h"
 #include "instruction_pages.h"
+#include "pin_pictures.h"
 #include "register_pages.h"
 
 int main(int argc, char** argv) {
@@ -32,6 +33,9 @@ int main(int argc, char** argv) {
         for (const auto& [file, html] : family.pages)
             written &= korvex::help::writePage(help + family.folder + "/" + file, html);
     }
+    std::filesystem::create_directories(help + "pins", error);
+    for (const auto& picture : korvex::help::pinPictures(drivers))
+        written &= korvex::help::writePage(help + "pins/" + picture.file, picture.svg);
     if (!written) {
         std::cerr << "korvex_helpgen: Hilfeseiten konnten nicht geschrieben werden.\n";
         return 1;

@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSvgRenderer>
+#include <QSvgWidget>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTextBrowser>
@@ -139,6 +141,12 @@ TEST(HelperWindows, F1AndTheHelpMenuShowTheirPages) {
     EXPECT_TRUE(
         help->browser()->source().toLocalFile().endsWith(QStringLiteral("552sfr/120.html")));
     EXPECT_TRUE(help->browser()->toPlainText().contains(QStringLiteral("SIO1")));
+    bench.trigger("MnPinsC515");
+    auto* pins = bench.window.findChild<QSvgWidget*>(QStringLiteral("frmPins"));
+    ASSERT_NE(pins, nullptr);
+    EXPECT_EQ(pins->windowTitle(), QStringLiteral("Anschlussbelegung C515 (=80C515 Infineon)"));
+    EXPECT_EQ(pins->size(), pins->renderer()->defaultSize());
+    EXPECT_GT(pins->width(), 300);
     bench.trigger("MnHelpHilfe");
     EXPECT_TRUE(
         help->browser()->toPlainText().contains(QStringLiteral("Der Befehlssatz des 8051")));

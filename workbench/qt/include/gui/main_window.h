@@ -33,6 +33,7 @@ class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
 class QProgressBar;
+class QSvgWidget;
 class QTextEdit;
 
 namespace korvex::gui {
@@ -147,6 +148,8 @@ class MainWindow : public QMainWindow, private Workspace {
     void showHelpFor(const char* command);
     void showHelpForWord(const std::string& word);
     void startCalculator();
+    void showPins(const char* file, const QString& caption);
+    void registerPinCommands();
 
     void findLabel();
     void chooseController();
@@ -205,7 +208,8 @@ class MainWindow : public QMainWindow, private Workspace {
     std::optional<QPoint> labelFinderPlace_;  // where the label finder was last, within a run
     QPointer<NotesWindow> notes_;
     QPointer<HelpWindow> helpWindow_;
-    QPointer<ReferenceWindow> reference_;  // the text of the last active source window
+    QPointer<ReferenceWindow> reference_;
+    QPointer<QSvgWidget> pins_;  // the text of the last active source window
 };
 
 }  // namespace korvex::gui
