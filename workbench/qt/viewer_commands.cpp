@@ -1,11 +1,14 @@
 // The viewers of the workbench: listing, hex and binary files and the
 // controller's driver, each open in a new window.
 
+#include <QHeaderView>
 #include <QIcon>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTableView>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
@@ -36,8 +39,12 @@ QMdiSubWindow* MainWindow::addViewer(QWidget* viewer, const std::string& caption
     frame->setWindowTitle(fromCp1252(caption));
     viewer->setWindowTitle(fromCp1252(caption));
     frame->installEventFilter(this);
+    // As a source window: three quarters of the inner area, one step further
+    // down and right than the last.
     const QSize inner = area_->viewport()->size();
+    const int step = 24 * static_cast<int>((area_->subWindowList().size() - 1) % 8);
     frame->resize(std::max(inner.width() * 3 / 4, 320), std::max(inner.height() * 3 / 4, 200));
+    frame->move(step, step);
     frame->show();
     area_->setActiveSubWindow(frame);
     viewer->setFocus();
@@ -113,8 +120,14 @@ void MainWindow::openByteFile(bool hex) {
         addViewer(window, viewerCaption(hex ? "Hexdatei: " : text8("Binärdatei: "), chosen));
     // Hex and binary windows share one place.
     frame->setProperty("sharedPlace", true);
+    // The stored place, but wide enough for all seventeen columns.
     const QRect place = sharedPlace().inPixels();
-    frame->setGeometry(place.x(), place.y(), std::max(place.width(), 200),
+    QTableView* view = window->grid();
+    int needed = view->verticalHeader()->sizeHint().width() + view->frameWidth() * 2 +
+                 view->verticalScrollBar()->sizeHint().width() + 16;
+    for (int column = 0; column < view->model()->columnCount(); ++column)
+        needed += view->columnWidth(column);
+    frame->setGeometry(place.x(), place.y(), std::max(place.width(), needed),
                        std::max(place.height(), 120));
 }
 
