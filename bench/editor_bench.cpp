@@ -15,7 +15,9 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -27,6 +29,7 @@
 #include "gui/editor_window.h"
 #include "gui/main_window.h"
 #include "workbench/byte_grid.h"
+#include "workbench/file_comparison.h"
 #include "workbench/find_replace.h"
 #include "workbench/settings.h"
 #include "workbench/user_settings_store.h"
@@ -144,10 +147,38 @@ void BM_ReplaceAllInLargeSource(benchmark::State& state) {
 }
 BENCHMARK(BM_ReplaceAllInLargeSource)->Unit(benchmark::kMillisecond);
 
-// A binary file of 300,000 bytes into the grid viewer, shown.
-void BM_OpenBinaryFileInTheGrid(benchmark::State& state) {
+// 300,000 bytes as Intel-HEX: 16-byte data records from address 0 (the
+// addresses wrap at 64 KB, as four hex digits do), and the end record.
+std::string hexFileOf(const std::string& bytes) {
+    std::string text;
+    text.reserve(bytes.size() * 2 + bytes.size() / 16 * 13);
+    char line[64];
+    for (std::size_t at = 0; at < bytes.size(); at += 16) {
+        const std::size_t count = std::min<std::size_t>(16, bytes.size() - at);
+        unsigned sum = static_cast<unsigned>(count) + ((at >> 8) & 0xFF) + (at & 0xFF);
+        std::snprintf(line, sizeof line, ":%02zX%04zX00", count, at & 0xFFFF);
+        text += line;
+        for (std::size_t i = 0; i < count; ++i) {
+            const auto byte = static_cast<unsigned char>(bytes[at + i]);
+            sum += byte;
+            std::snprintf(line, sizeof line, "%02X", byte);
+            text += line;
+        }
+        std::snprintf(line, sizeof line, "%02X\r\n", (0x100 - (sum & 0xFF)) & 0xFF);
+        text += line;
+    }
+    return text + ":00000001FF\r\n";
+}
+
+std::string largeBinary() {
     std::string bytes(300000, '\0');
     for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 7);
+    return bytes;
+}
+
+// A binary file of 300,000 bytes into the grid viewer, shown.
+void BM_OpenBinaryFileInTheGrid(benchmark::State& state) {
+    const std::string bytes = largeBinary();
     for (auto _ : state) {
         korvex::gui::ByteGridWindow window(korvex::gui::ByteGridWindow::Kind::Binary,
                                            korvex::binaryGrid(bytes), 0xC0C0C0, 0xFFFFFF);
@@ -160,6 +191,39 @@ void BM_OpenBinaryFileInTheGrid(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_OpenBinaryFileInTheGrid)->Unit(benchmark::kMillisecond);
+
+// The hex file of those 300,000 bytes into the hex viewer, shown.
+void BM_OpenHexFileInTheGrid(benchmark::State& state) {
+    const std::string hex = hexFileOf(largeBinary());
+    for (auto _ : state) {
+        korvex::ByteGrid grid;
+        korvex::readHexGrid(hex, grid);
+        korvex::gui::ByteGridWindow window(korvex::gui::ByteGridWindow::Kind::Hex, std::move(grid),
+                                           0xC0C0C0, 0xFFFFFF);
+        window.resize(900, 600);
+        window.show();
+        settle();
+        state.PauseTiming();
+        window.hide();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(BM_OpenHexFileInTheGrid)->Unit(benchmark::kMillisecond);
+
+// Comparing: the hex file of the 300,000 bytes expanded (its addresses wrap
+// at 64 KB) against the binary, and the binary against an equal copy, which
+// walks all 300,000 bytes.
+void BM_CompareLargeFiles(benchmark::State& state) {
+    const std::string bytes = largeBinary();
+    const std::string hex = hexFileOf(bytes);
+    const std::string copy = bytes;
+    for (auto _ : state) {
+        const std::string image = korvex::LoadForCompare(hex, true, 0xFF);
+        benchmark::DoNotOptimize(korvex::CompareBytes(image, bytes, 100));
+        benchmark::DoNotOptimize(korvex::CompareBytes(bytes, copy, 100));
+    }
+}
+BENCHMARK(BM_CompareLargeFiles)->Unit(benchmark::kMillisecond);
 
 // The file dialog always names the one prepared source.
 struct OneFile : korvex::FileDialogs {
