@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "base/files.h"
+#include "base/text.h"
 
 namespace korvex::help {
 
@@ -26,7 +27,8 @@ std::string page(std::string_view title, std::string_view body) {
     text += escaped(title);
     text += "</title>\n<link rel=\"stylesheet\" href=\"../korvex/hilfe.css\">\n</head>\n<body>\n";
     text += "<p class=\"kopf\"><a href=\"index.html\">Inhalt</a></p>\n";
-    text += body;
+    // The help window reads no style sheet: tables carry their frame themselves.
+    text += replaceAll(body, "<table>", "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\">");
     text += "\n</body>\n</html>\n";
     return text;
 }

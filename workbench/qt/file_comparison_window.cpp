@@ -57,6 +57,12 @@ FileComparisonWindow::FileComparisonWindow(Services services, std::int32_t backg
         names_[which] = field(text + QStringLiteral("_0"));
         sizes_[which] = field(text + QStringLiteral("_1"));
         dates_[which] = field(text + QStringLiteral("_2"));
+        // Room for a whole date and time, whatever the font.
+        dates_[which]->setMinimumWidth(
+            dates_[which]->fontMetrics().horizontalAdvance(QStringLiteral("88.88.8888 88:88:88")) +
+            16);
+        sizes_[which]->setMaximumWidth(
+            sizes_[which]->fontMetrics().horizontalAdvance(QStringLiteral("88888888")) + 16);
         auto* choose = new QPushButton(which == 0 ? QStringLiteral("1. Datei wählen")
                                                   : QStringLiteral("2. Datei wählen"));
         choose->setObjectName(which == 0 ? QStringLiteral("Command1") : QStringLiteral("Command2"));
