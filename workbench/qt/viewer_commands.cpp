@@ -127,8 +127,13 @@ void MainWindow::openByteFile(bool hex) {
                  view->verticalScrollBar()->sizeHint().width() + 16;
     for (int column = 0; column < view->model()->columnCount(); ++column)
         needed += view->columnWidth(column);
-    frame->setGeometry(place.x(), place.y(), std::max(place.width(), needed),
-                       std::max(place.height(), 120));
+    const int width = std::max(place.width(), needed);
+    const int height = std::max(place.height(), 120);
+    // Moved in where the workbench is too small for the stored place.
+    const QSize inner = area_->viewport()->size();
+    frame->setGeometry(std::clamp(place.x(), 0, std::max(inner.width() - width, 0)),
+                       std::clamp(place.y(), 0, std::max(inner.height() - height, 0)), width,
+                       height);
 }
 
 StoredPlace MainWindow::sharedPlace() {
