@@ -12,6 +12,7 @@
 
 #include "gui/bookmark_picture.h"
 #include "gui/qt_text.h"
+#include "gui/source_text_layout.h"
 #include "qt_text_operation.h"
 #include "qt_text_properties.h"
 #include "workbench/text_scan.h"
@@ -20,6 +21,7 @@ namespace korvex::gui {
 
 QtTextControl::QtTextControl(QTextEdit* edit)
     : edit_(edit), document_(edit->document()), picture_(bookmarkFlag()) {
+    document_->setDocumentLayout(new SourceTextLayout(document_));
     document_->addResource(QTextDocument::ImageResource, QUrl(kPictureName), picture_);
     // Windows-1252 has no right-to-left letters: said once here, the layout
     // need not read every line for its direction after each keystroke.
@@ -91,6 +93,7 @@ void QtTextControl::SetText(std::string_view text) {
     // widget then lays out only what it shows and the rest bit by bit,
     // instead of all of it at once, and the load is no step to undo.
     auto* fresh = new QTextDocument(edit_);
+    fresh->setDocumentLayout(new SourceTextLayout(fresh));
     fresh->setUndoRedoEnabled(false);
     fresh->setDefaultFont(document_->defaultFont());
     fresh->setDefaultTextOption(document_->defaultTextOption());

@@ -47,6 +47,33 @@ TEST_F(EditorWindowTest, EnterIndentsLikeTheLineAbove) {
     EXPECT_GE(edited.count(), 1);
 }
 
+// The window's own layout: lines counted where the caret goes, wrapped
+// lines included, and clicks land where the text is drawn.
+TEST_F(EditorWindowTest, TheCaretLineFollowsTheCaretThroughALongText) {
+    std::string text;
+    for (int line = 1; line <= 300; ++line)
+        text += "\tnop\t; Zeile " + std::to_string(line) + "\r\n";
+    window->setSourceText(text);
+    QCoreApplication::processEvents();
+    QTest::keyClick(edit(), Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(window->caretLine(), 301);
+    QTest::keyClick(edit(), Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(window->caretLine(), 1);
+    QTest::keyClick(edit(), Qt::Key_Down);
+    QTest::keyClick(edit(), Qt::Key_Down);
+    EXPECT_EQ(window->caretLine(), 3);
+    // A click on the third line's text puts the caret there.
+    const QRect third = edit()->cursorRect();
+    caretAt(0);
+    QTest::mouseClick(edit()->viewport(), Qt::LeftButton, {}, third.center() + QPoint(0, 1));
+    EXPECT_EQ(window->caretLine(), 3);
+    // A line longer than the window wraps and counts twice.
+    window->setSourceText(std::string(2000, 'x') + "\r\nnop");
+    QCoreApplication::processEvents();
+    caretAt(box().TextLength());
+    EXPECT_GT(window->caretLine(), 2);
+}
+
 TEST_F(EditorWindowTest, TypedCommentTakesItsColourWhenTheCaretLeavesTheLine) {
     QTest::keyClicks(edit(), "MOV A ;x");
     box().Select(6, 1);
