@@ -56,9 +56,8 @@ std::int32_t timer01ReloadForFrequency(float clockMegahertz, double frequency) {
     return roundToInt32(256 - q);
 }
 
-std::int32_t timer2ReloadForFrequency(float fosc, double frequency, bool baudMode) {
-    const double q = baudMode ? static_cast<double>(fosc) / 32.0 / frequency
-                              : static_cast<double>(fosc) / 12.0 / frequency;
+std::int32_t timer2ReloadForFrequency(float fosc, double frequency, Timer2ReloadDivider divider) {
+    const double q = static_cast<double>(fosc) / static_cast<int>(divider) / frequency;
     std::int32_t reload = roundToInt32(65536.0 - q);
     if (reload > 65536) reload = 65536;
     return reload;

@@ -27,6 +27,10 @@ class ControlRegistry {
         for (auto& c : controls) add(c);
     }
 
+    // Takes a control, or all members of an array, out of reach: a chip that
+    // lacks a unit of the base record drops its controls.
+    void remove(const std::string& name);
+
     std::optional<ControlRef> find(const std::string& name, int index = -1) const;
     // Whether a control of this name is registered, alone or as an array.
     bool holds(const std::string& name) const;
