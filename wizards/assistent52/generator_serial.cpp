@@ -26,6 +26,56 @@ void Assistent52::writeTimer2BaudLines(std::string& code, float fosc, double bau
     s_.T2Text5.text = hex2(setting.reload / 256);
 }
 
+void Assistent52::writeBaudLines(std::string& code, float fosc) {
+    const double receiveBaud = valNumber(s_.UCombo3.text);
+    const double sendBaud = valNumber(s_.UCombo4.text);
+    const int receive = s_.UCombo1.listIndex;
+    const int send = s_.UCombo2.listIndex;
+    if (receive == 0 && send == 0) {
+        if (receiveBaud > 0) {
+            code += kLineEnd;
+            writeTimer1BaudLines(code, fosc, receiveBaud);
+        }
+    } else if (receive == 0 && send == 1) {
+        if (receiveBaud > 0) {
+            code += kLineEnd;
+            line(code);
+            line(code, "; Baudrate für Empfang mit Timer 1 erzeugen.");
+            writeTimer1BaudLines(code, fosc, receiveBaud);
+        }
+        if (sendBaud > 0) {
+            code += kLineEnd;
+            line(code, "; Baudrate für Senden mit Timer 2 erzeugen:");
+            writeTimer2BaudLines(
+                code, fosc, sendBaud,
+                load("T2CON", "14h") + text8("\t; Timer 2 als Baudratengenerator für "
+                                             "Senden, Timer 2 Run"));
+        }
+    } else if (receive == 1 && send == 0) {
+        if (receiveBaud > 0) {
+            code += kLineEnd;
+            line(code);
+            line(code, "; Baudrate für Empfang mit Timer 2 erzeugen:");
+            writeTimer2BaudLines(
+                code, fosc, receiveBaud,
+                load("T2CON", "24h") + text8("\t; Timer 2 als Baudratengenerator für "
+                                             "Empfang, Timer 2 Run"));
+        }
+        if (sendBaud > 0) {
+            code += kLineEnd;
+            line(code, "; Baudrate für Senden mit Timer 1 erzeugen:");
+            writeTimer1BaudLines(code, fosc, sendBaud);
+        }
+    } else if (receive == 1 && send == 1) {
+        if (receiveBaud > 0) {
+            code += kLineEnd;
+            writeTimer2BaudLines(
+                code, fosc, receiveBaud,
+                load("T2CON", "34h") + "\t; Timer 2 als Baudratengenerator, Timer 2 Run");
+        }
+    }
+}
+
 void Assistent52::writeSerialPort(ProgramParts& out, const GenerationContext& context) {
     const float fosc = context.fosc;
     const bool doubled = s_.UCheck4.value != 0;
@@ -57,53 +107,7 @@ void Assistent52::writeSerialPort(ProgramParts& out, const GenerationContext& co
         // The SCON line of modes 1 and 3 stays open: each baud branch begins with its line end.
         code += load("SCON", hexText(scon + (mode == 1 ? 64 : 192))) + "h\t; " +
                 s_.UOption1.buttons[static_cast<std::size_t>(mode)].caption + flags;
-        const double receiveBaud = valNumber(s_.UCombo3.text);
-        const double sendBaud = valNumber(s_.UCombo4.text);
-        const int receive = s_.UCombo1.listIndex;
-        const int send = s_.UCombo2.listIndex;
-        if (receive == 0 && send == 0) {
-            if (receiveBaud > 0) {
-                code += kLineEnd;
-                writeTimer1BaudLines(code, fosc, receiveBaud);
-            }
-        } else if (receive == 0 && send == 1) {
-            if (receiveBaud > 0) {
-                code += kLineEnd;
-                line(code);
-                line(code, "; Baudrate für Empfang mit Timer 1 erzeugen.");
-                writeTimer1BaudLines(code, fosc, receiveBaud);
-            }
-            if (sendBaud > 0) {
-                code += kLineEnd;
-                line(code, "; Baudrate für Senden mit Timer 2 erzeugen:");
-                writeTimer2BaudLines(
-                    code, fosc, sendBaud,
-                    load("T2CON", "14h") + text8("\t; Timer 2 als Baudratengenerator für "
-                                                 "Senden, Timer 2 Run"));
-            }
-        } else if (receive == 1 && send == 0) {
-            if (receiveBaud > 0) {
-                code += kLineEnd;
-                line(code);
-                line(code, "; Baudrate für Empfang mit Timer 2 erzeugen:");
-                writeTimer2BaudLines(
-                    code, fosc, receiveBaud,
-                    load("T2CON", "24h") + text8("\t; Timer 2 als Baudratengenerator für "
-                                                 "Empfang, Timer 2 Run"));
-            }
-            if (sendBaud > 0) {
-                code += kLineEnd;
-                line(code, "; Baudrate für Senden mit Timer 1 erzeugen:");
-                writeTimer1BaudLines(code, fosc, sendBaud);
-            }
-        } else if (receive == 1 && send == 1) {
-            if (receiveBaud > 0) {
-                code += kLineEnd;
-                writeTimer2BaudLines(
-                    code, fosc, receiveBaud,
-                    load("T2CON", "34h") + "\t; Timer 2 als Baudratengenerator, Timer 2 Run");
-            }
-        }
+        writeBaudLines(code, fosc);
     }
     if (doubled && s_.UCheck4.enabled && s_.UCheck4.visible) {
         line(code,

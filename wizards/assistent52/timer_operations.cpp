@@ -106,7 +106,7 @@ void Assistent52::T1Check0Click() {
         return;
     }
     const bool on = s_.T1Check0.value != 0;
-    if (on && s_.UCombo1.enabled && (s_.UCombo1.listIndex == 0 || s_.UCombo2.listIndex == 0)) {
+    if (on && timer1TimesSerialPort()) {
         if (!host_.question("Konflikt",
                             text8("Timer 1 wird bereits als Baudratengenerator "
                                   "verwendet. Möchten Sie diese Zuordnung aufheben?"))) {

@@ -171,6 +171,9 @@ class Assistent52 : public Wizard {
     // The text of T2EX as an extra interrupt, behind the baud-rate texts.
     std::string timer2Hint() const;
 
+    // The baud-rate lines of modes 1 and 3, behind the open SCON line.
+    virtual void writeBaudLines(std::string& code, float fosc);
+
     // Pieces of the sections.
     void writeTimer1BaudLines(std::string& code, float fosc, double baud);
     void writeTimer2BaudLines(std::string& code, float fosc, double baud, const std::string& t2con);

@@ -28,6 +28,9 @@ struct WizardOptions {
     std::uint32_t commentColour = 0x008000;  // as the settings store it
     // Date and time for the header, in the system's form; the present moment when empty.
     std::function<std::string()> now;
+    // The program's folder, ending in "/": where a wizard finds the files it
+    // reads (the I²C routine of the 80C552).
+    std::string programFolder;
 };
 
 // The present moment as a German system writes it: "23.11.2026 14:05:33".

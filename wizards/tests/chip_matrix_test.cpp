@@ -1,0 +1,135 @@
+// Every chip's programs assemble without a finding with the chip's own
+// shipped driver: each tab's main choices alone and combined. The cases the
+// design itself leaves unassemblable are listed with the reason, and the
+// test holds that they still fail, so that a change there is noticed.
+
+#include <gtest/gtest.h>
+
+#include "base/cp1252.h"
+#include "wizard_fixture.h"
+#include "wizard_session.h"
+
+namespace korvex::wizards::testing {
+namespace {
+
+struct Case {
+    std::string chip;
+    std::string name;
+    std::vector<std::string> settings;
+    // Empty: assembles clean. Else why the design's output can't assemble.
+    std::string cannotAssemble = {};
+};
+
+// Timers 0 and 1 in each mode, as timer and counter, with and without gate.
+void addTimerCases(std::vector<Case>& cases, const std::string& chip,
+                   const std::vector<std::string>& timer1On = {"T1Check0=1"}) {
+    for (int mode = 0; mode < 4; ++mode) {
+        for (int counter = 0; counter < 2; ++counter) {
+            for (int gate = 0; gate < 2; ++gate) {
+                const std::string tag = "M" + std::to_string(mode) +
+                                        (counter ? "Counter" : "Timer") + (gate ? "Gate" : "");
+                const std::vector<std::string> fields = {
+                    "Option1=" + std::to_string(counter), "Combo1=" + std::to_string(mode),
+                    "Check1=" + std::to_string(gate), "Text1=3C", "Text2=B0"};
+                Case t0{chip, "Timer0" + tag, {}};
+                Case t1{chip, "Timer1" + tag, timer1On};
+                for (const auto& f : fields) {
+                    t0.settings.push_back("T0" + f);
+                    t1.settings.push_back("T1" + f);
+                }
+                t0.settings.push_back("T0Check2=1");
+                if (mode != 3) t1.settings.push_back("T1Check2=1");
+                cases.push_back(t0);
+                cases.push_back(t1);
+            }
+        }
+    }
+}
+
+const char* const kOrBank = "the bank line \"or PSW, # \" is no instruction of the language";
+const char* const kOpenLoop = "the serial interrupt's loop stays open without the port";
+
+std::vector<Case> cases51() {
+    std::vector<Case> cases = {
+        {"51", "Defaults", {}},
+        {"51",
+         "SystemAll",
+         {"SText2=30", "SCheck1=1", "SText3=20", "SText4=7F", "SCheck2=1",
+          "SText5=Prüfstand, Förderband"}},
+        {"51", "Bank2", {"SCombo1=2"}, kOrBank},
+        {"51", "SerialMode0", {"UCheck1=1"}},
+        {"51", "SerialMode1Doubled", {"UCheck1=1", "UOption1=1", "UCheck4=1", "UCombo1=19200"}},
+        {"51", "SerialMode1Slow", {"UCheck1=1", "UOption1=1", "UCombo1=110"}},
+        {"51", "SerialMode2", {"UCheck1=1", "UOption1=2", "UCheck2=1", "UCheck3=1", "UCheck4=1"}},
+        {"51", "SerialMode3Sm2", {"UCheck1=1", "UOption1=3", "UCheck2=1", "UCheck3=1"}},
+        {"51", "SerialWithTimer0Mode3", {"T0Combo1=3", "UCheck1=1", "UOption1=1", "T0Check2=1"}},
+        {"51",
+         "SerialWithInterrupt",
+         {"UCheck1=1", "UOption1=1", "UCheck3=1", "ICheck1(4)=1", "ICheck2(4)=1", "ICheck0=1"}},
+        {"51", "SerialInterruptWithoutPort", {"ICheck1(4)=1"}, kOpenLoop},
+        {"51",
+         "AllInterrupts",
+         {"ICheck1(0)=1", "ICheck1(1)=1", "ICheck1(2)=1", "ICheck1(3)=1", "ICheck2(0)=1",
+          "ICheck2(2)=1", "IOption1=1", "IOption2=1", "ICheck0=1"}},
+        {"51", "LevelTriggers", {"ICheck1(0)=1", "ICheck1(2)=1"}},
+        {"51",
+         "Everything",
+         {"SText2=40", "SCheck1=1", "UCheck1=1", "UOption1=3", "UCheck3=1", "T0Combo1=2",
+          "T0Text2=9C", "T0Text1=9C", "T0Check2=1", "ICheck1(0)=1", "ICheck1(1)=1", "ICheck1(4)=1",
+          "ICheck0=1"}},
+    };
+    addTimerCases(cases, "51");
+    return cases;
+}
+
+std::vector<Case> allCases() {
+    std::vector<Case> cases;
+    for (auto&& chipCases : {cases51()}) {
+        cases.insert(cases.end(), chipCases.begin(), chipCases.end());
+    }
+    return cases;
+}
+
+// The report's warnings other than the send routines that the wizard offers
+// and nobody calls yet ("Sende:", "Sende 0:", ...).
+std::vector<std::string> unexpectedWarnings(const std::string& report) {
+    std::vector<std::string> out;
+    if (report.rfind("Warnungen/Fehler:", 0) != 0) return out;
+    std::size_t from = report.find("\r\n") + 2;
+    while (from < report.size()) {
+        const std::size_t end = report.find("\r\n", from);
+        const std::string text = report.substr(from, end - from);
+        if (text.empty() || end == std::string::npos) break;
+        if (text != "Unbenutzte Label" && text.rfind("   Sende", 0) != 0)
+            out.push_back(toUtf8(text));
+        from = end + 2;
+    }
+    return out;
+}
+
+class ChipAssembly : public ::testing::TestWithParam<Case> {};
+
+TEST_P(ChipAssembly, ProgramAssemblesWithTheChipsDriver) {
+    const Case& c = GetParam();
+    WizardSession session(c.chip, std::string(KORVEX_DATA_DIR) + "/");
+    session.apply(c.settings);
+    EXPECT_EQ(session.host.unanswered, 0);
+    const AssembledSource result = assembleProgram(session.program());
+    ASSERT_EQ(result.outcome, RunOutcome::Completed) << toUtf8(session.program());
+    if (!c.cannotAssemble.empty()) {
+        EXPECT_FALSE(result.findings.empty() && unexpectedWarnings(result.report).empty())
+            << c.cannotAssemble;
+        return;
+    }
+    EXPECT_EQ(result.findings, std::vector<std::string>{}) << toUtf8(session.program());
+    EXPECT_EQ(unexpectedWarnings(result.report), std::vector<std::string>{})
+        << toUtf8(result.report) << toUtf8(session.program());
+}
+
+INSTANTIATE_TEST_SUITE_P(AllChips, ChipAssembly, ::testing::ValuesIn(allCases()),
+                         [](const auto& info) {
+                             return "A" + info.param.chip + "_" + info.param.name;
+                         });
+
+}  // namespace
+}  // namespace korvex::wizards::testing
