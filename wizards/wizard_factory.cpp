@@ -5,6 +5,7 @@
 
 #include "wizards/assistent51/assistent51.h"
 #include "wizards/assistent52/assistent52.h"
+#include "wizards/assistent89s53/assistent89s53.h"
 
 namespace korvex::wizards {
 namespace {
@@ -23,6 +24,7 @@ const std::vector<std::pair<std::string, Maker>>& wizards() {
     static const std::vector<std::pair<std::string, Maker>> table = {
         {"51", maker<assistent51::Assistent51>()},
         {"52", maker<assistent52::Assistent52>()},
+        {"89S53", maker<assistent89s53::Assistent89S53>()},
     };
     return table;
 }

@@ -40,12 +40,28 @@ void Assistent52::writeMainProgram(ProgramParts& out, const GenerationContext& c
     }
     line(code);
     line(code, "loop\t; Routine für seriellen Empfang");
+    std::string blocks;
+    writeLoopBlocks(blocks);
     // Without the serial port the loop stays open; the user completes it.
+    if (blocks.empty()) return;
+    code += blocks;
+    line(code, "end loop");
+    line(code, "; * * * Hauptprogramm Ende * * *");
+    writeLoopSubroutines(code);
+}
+
+void Assistent52::writeLoopBlocks(std::string& code) {
     if (s_.UCheck1.value == 0) return;
     for (const char* text :
-         {"\tif bit Empfang then", "\t\tclr Empfang", "\t\tSerielle Daten auswerten", "\tend if",
-          "end loop", "; * * * Hauptprogramm Ende * * *", "",
-          "Serielle Daten auswerten:", "\tmov a, SBUF", "\t; weitere Befehle", "ret", "",
+         {"\tif bit Empfang then", "\t\tclr Empfang", "\t\tSerielle Daten auswerten", "\tend if"}) {
+        line(code, text);
+    }
+}
+
+void Assistent52::writeLoopSubroutines(std::string& code) {
+    if (s_.UCheck1.value == 0) return;
+    for (const char* text :
+         {"", "Serielle Daten auswerten:", "\tmov a, SBUF", "\t; weitere Befehle", "ret", "",
           "Sende:\t; Sendewert in a", "\tjb Sendebusy, hier\t; auf Sendefreigabe warten",
           "\tmov SBUF, a", "\tsetb Sendebusy", "ret"}) {
         line(code, text);

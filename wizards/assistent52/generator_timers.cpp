@@ -204,7 +204,8 @@ void Assistent52::writeTimer2(ProgramParts& out, const GenerationContext& contex
                 text8("Zähler 2 ist ein 16-Bit Aufwärtszähler") + captureText + clockInput;
             break;
         case T2BaudOscillator:
-        case T2BaudExternal: {
+        case T2BaudExternal:
+        case T2BaudOscillatorOutput: {
             const int direction = s_.T2Option1.selected;
             const std::string& caption =
                 s_.T2Option1.buttons[static_cast<std::size_t>(direction)].caption;
@@ -214,7 +215,8 @@ void Assistent52::writeTimer2(ProgramParts& out, const GenerationContext& contex
                     (exen2 ? 8 : 0) + (function == T2BaudExternal ? 2 : 0);
             description =
                 text8("Timer 2 wird als Baudratengenerator für ") + caption + " verwendet.";
-            if (function == T2BaudOscillator) {
+            if (function == T2BaudOscillatorOutput) t2mod = 2;  // T2OE: the rate out on T2
+            if (function != T2BaudExternal) {
                 const float baud = toSingle(static_cast<double>(context.fosc) /
                                             static_cast<double>((65536 - reload) * 32));
                 description += text8(" Die Baudrate beträgt ") + str(baud) + " Baud." + hint;

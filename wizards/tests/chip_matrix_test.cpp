@@ -46,6 +46,10 @@ void addTimerCases(std::vector<Case>& cases, const std::string& chip,
     }
 }
 
+void PrintTo(const Case& c, std::ostream* os) {
+    *os << c.chip << " " << c.name;
+}
+
 const char* const kOrBank = "the bank line \"or PSW, # \" is no instruction of the language";
 const char* const kOpenLoop = "the serial interrupt's loop stays open without the port";
 
@@ -82,9 +86,69 @@ std::vector<Case> cases51() {
     return cases;
 }
 
+// The base's choices that the AT89 chips share: serial generators, Timer 2's
+// functions, SPI and watchdog.
+void addAtmelCases(std::vector<Case>& cases, const std::string& chip, int timer2Functions) {
+    const std::vector<Case> shared = {
+        {chip, "Defaults", {}},
+        {chip,
+         "SystemAll",
+         {"SText2=30", "SCheck1=1", "SText3=20", "SText4=7F", "SCombo1=3", "SCheck2=1",
+          "SText5=Prüfstand"}},
+        {chip, "SerialMode0", {"UCheck1=1"}},
+        {chip, "SerialMode1Doubled", {"UCheck1=1", "UOption1=1", "UCheck4=1", "UCombo3=19200"}},
+        {chip,
+         "SerialReceiveT2SendT1",
+         {"UCheck1=1", "UOption1=3", "UCombo1=1", "UCombo4=4800", "UCheck3=1"}},
+        {chip, "SerialBothT2", {"UCheck1=1", "UOption1=1", "UCombo1=1", "UCombo2=1"}},
+        {chip, "SerialMode2", {"UCheck1=1", "UOption1=2", "UCheck2=1", "UCheck3=1", "UCheck4=1"}},
+        {chip,
+         "SerialWithInterrupt",
+         {"UCheck1=1", "UOption1=1", "UCheck3=1", "ICheck1(4)=1", "ICheck0=1"}},
+        {chip, "SpiMasterLsbFirst", {"SPICheck1=1", "SPIOption1=1", "SPIList1=3", "SPIOption3=2"}},
+        {chip, "SpiSlave", {"SPICheck1=1", "SPIOption2=0", "SPIOption3=1"}},
+        {chip, "SpiInterruptAlone", {"SPICheck1=1", "SPICheck2=1", "ICheck0=1"}},
+        {chip,
+         "SpiInterruptWithSerial",
+         {"UCheck1=1", "UOption1=1", "SPICheck1=1", "SPICheck2=1", "ICheck0=1"}},
+    };
+    cases.insert(cases.end(), shared.begin(), shared.end());
+    for (int function = 0; function < timer2Functions; ++function) {
+        cases.push_back(
+            {chip,
+             "Timer2Function" + std::to_string(function),
+             {"T2Check0=1", "T2Text4=F0", "T2Text5=FF", "T2Combo1=" + std::to_string(function),
+              "T2Text2=34", "T2Text3=12", "ICheck1(5)=1", "ICheck0=1"}});
+    }
+    addTimerCases(cases, chip);
+}
+
+std::vector<Case> cases89S53() {
+    std::vector<Case> cases;
+    addAtmelCases(cases, "89S53", 14);
+    for (int chip = 0; chip < 2; ++chip) {
+        for (int period = 0; period < 8; period += 3) {
+            cases.push_back({"89S53",
+                             "Watchdog" + std::to_string(chip) + "Period" + std::to_string(period),
+                             {"SOption1=" + std::to_string(chip), "WCheck2=1",
+                              "WCheck1(" + std::to_string(period) + ")=1", "WCheck3(0)=1",
+                              "WCheck3(1)=1", "WCheck3(2)=1", "ICheck1(1)=1", "ICheck2(3)=1",
+                              "T2Check0=1", "T2Combo1=3", "ICheck1(5)=1"}});
+        }
+    }
+    cases.push_back({"89S53", "EepromReadWrite", {"SOption1=1", "SCheck3(0)=1", "SCheck3(1)=1"}});
+    cases.push_back({"89S53",
+                     "Everything",
+                     {"SOption1=1", "SCheck3(0)=1", "SText2=40", "SCheck1=1", "UCheck1=1",
+                      "UOption1=3", "UCombo1=1", "UCheck3=1", "T0Combo1=2", "T0Text2=9C",
+                      "T0Check2=1", "SPICheck1=1", "SPICheck2=1", "WCheck2=1", "WCheck3(0)=1",
+                      "ICheck1(0)=1", "ICheck1(1)=1", "ICheck1(5)=1", "ICheck0=1"}});
+    return cases;
+}
+
 std::vector<Case> allCases() {
     std::vector<Case> cases;
-    for (auto&& chipCases : {cases51()}) {
+    for (auto&& chipCases : {cases51(), cases89S53()}) {
         cases.insert(cases.end(), chipCases.begin(), chipCases.end());
     }
     return cases;

@@ -21,6 +21,10 @@ struct Sample {
     std::string stop = "END";  // the statement the run stops at
 };
 
+void PrintTo(const Sample& s, std::ostream* os) {
+    *os << s.chip << " " << s.name;
+}
+
 std::vector<Sample> samples() {
     return {
         {"51",
@@ -55,6 +59,31 @@ std::vector<Sample> samples() {
          {"UCheck1=1", "UOption1=2", "UCheck3=1", "UCheck4=1", "UCheck2=1"},
          {},
          {{"sfr:98", 0xB0}, {"sfr:87", 0x80}}},
+        // The AT89S53's own registers, on the 8052 core of s51.
+        {"89S53",
+         "8052",
+         "SpiMasterAndWatchdog",
+         {"SPICheck1=1", "SPIOption1=1", "SPIList1=2", "SPIOption3=3", "WCheck2=1", "WCheck1(5)=1"},
+         {},
+         {{"sfr:D5", 0x7E}, {"sfr:96", 0xA1}}},
+        {"89S53",
+         "8052",
+         "Timer2UpDownWithReload",
+         {"T2Check0=1", "T2Combo1=2", "!T2Command1"},
+         {"1000"},
+         {{"sfr:C8", 0x04}, {"sfr:C9", 0x01}, {"sfr:CA", 0x18}, {"sfr:CB", 0xFC}}},
+        {"89S53",
+         "8052",
+         "Timer2ClockOutput",
+         {"T2Check0=1", "T2Combo1=12", "!T2Command1"},
+         {"1000"},
+         {{"sfr:C8", 0x04}, {"sfr:C9", 0x02}, {"sfr:CA", 0x48}, {"sfr:CB", 0xF4}}},
+        {"89S53",
+         "8052",
+         "SerialBothOnTimer2",
+         {"UCheck1=1", "UOption1=3", "UCheck3=1", "UCombo1=1", "UCombo2=1", "UCombo3=9600"},
+         {},
+         {{"sfr:98", 0xD0}, {"sfr:C8", 0x34}, {"sfr:CB", 0xFF}, {"sfr:CA", 0xD9}}},
     };
 }
 

@@ -171,6 +171,10 @@ class Assistent52 : public Wizard {
     // The text of T2EX as an extra interrupt, behind the baud-rate texts.
     std::string timer2Hint() const;
 
+    // The serial interrupt's main loop: the blocks inside it, and the
+    // subroutines behind its end. No blocks leave the loop open.
+    virtual void writeLoopBlocks(std::string& code);
+    virtual void writeLoopSubroutines(std::string& code);
     // The baud-rate lines of modes 1 and 3, behind the open SCON line.
     virtual void writeBaudLines(std::string& code, float fosc);
 
