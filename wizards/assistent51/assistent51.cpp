@@ -60,49 +60,17 @@ void Assistent51::loadSettings() {
     regenerateProgram();
 }
 
+assistent52::Timer1PortControls Assistent51::port() {
+    return {s_.UCheck1, s_.UFrame1, s_.UOption1, s_.UCheck2,
+            s_.UCheck3, s_.UCheck4, s_.UCombo1,  lastSerialMode_};
+}
+
 void Assistent51::UCheck1Click() {
-    const bool on = s_.UCheck1.value != 0;
-    s_.UFrame1.enabled = on;
-    auto& modes = s_.UOption1.buttons;
-    if (!on) {
-        modes[1].enabled = modes[3].enabled = true;
-        s_.UCombo1.enabled = s_.UCheck3.enabled = s_.UCheck4.enabled = false;
-        regenerateProgram();
-        return;
-    }
-    if (s_.T1Check0.value != 0) {
-        modes[1].enabled = modes[3].enabled = false;
-        if (s_.UOption1.selected != 2) selectOption(s_.UOption1, 0);
-        host_.note(
-            text8("Die Modi 1 und 3 stehen nicht zur Verfügung, weil Timer 1 für andere Zwecke "
-                  "verwendet wird.\r\nGeben Sie Timer 1 frei."));
-    } else {
-        modes[1].enabled = modes[3].enabled = true;
-    }
-    UOption1Click(s_.UOption1.selected);
+    timer1PortUseClick(port());
 }
 
 void Assistent51::UOption1Click(int index) {
-    GuardHold hold(generationGuard_, guard_code::kSerialMode);
-    if (index % 2 == 1 && s_.T1Check0.value != 0) {
-        if (host_.question("Konflikt", text8("Timer 1 wird bereits für andere Zwecke verwendet. "
-                                             "Möchten Sie diese Zuordnung aufheben?"))) {
-            setCheck(s_.T1Check0, 0);
-            setListIndex(s_.T1Combo1, 2);
-            setCheck(s_.T1Check2, 1);
-            setCheck(s_.T0Check3, 1);
-        } else {
-            // The mode goes back quietly: Timer 1 stays with its other work.
-            index = lastSerialMode_;
-            s_.UOption1.selected = static_cast<std::int16_t>(index);
-        }
-    }
-    s_.UCombo1.enabled = index % 2 == 1;
-    s_.UCheck3.enabled = s_.UCheck4.enabled = index != 0;
-    s_.UCheck2.enabled = index == 2 || index == 3;
-    lastSerialMode_ = index;
-    hold.release();
-    regenerateProgram();
+    timer1PortModeClick(port(), index);
 }
 
 void Assistent51::writeBaudLines(std::string& code, float fosc) {

@@ -28,6 +28,10 @@ bool Assistent52::timer1TimesSerialPort() const {
     return s_.UCombo1.enabled && (s_.UCombo1.listIndex == 0 || s_.UCombo2.listIndex == 0);
 }
 
+void Assistent52::freeTimer1FromSerialPort() {
+    setCheck(s_.UCheck1, 0);
+}
+
 bool Assistent52::timer2InterruptEnabled() const {
     return s_.ICheck1.size() > kTimer2Interrupt && s_.ICheck1[kTimer2Interrupt].value != 0;
 }

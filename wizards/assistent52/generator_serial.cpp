@@ -7,7 +7,8 @@
 namespace korvex::wizards::assistent52 {
 
 void Assistent52::writeTimer1BaudLines(std::string& code, float fosc, double baud) {
-    const BaudSetting setting = timer1Baud(fosc, baud, s_.UCheck4.value != 0);
+    const BaudSetting setting =
+        timer1Baud(static_cast<float>(fosc * timer1BaudFactor()), baud, s_.UCheck4.value != 0);
     line(code, load("TMOD", "20h") + "\t; Timer 1 Autoreloadmodus");
     line8(code, load("TH1", hexText(setting.reload)) + text8("h\t; Reloadwert für Baudrate ") +
                     str(toSingle(setting.actual)));

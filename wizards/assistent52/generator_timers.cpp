@@ -17,7 +17,8 @@ std::string Assistent52::mode0GateLine(int timer) const {
 
 std::string Assistent52::overflowText(float fosc, int timer, int mode,
                                       const std::string& reloadText) const {
-    const OverflowRate rate = overflowRate(fosc, timer01Divisor(mode, hexFieldValue(reloadText)));
+    const OverflowRate rate = overflowRate(fosc, timer01Divisor(mode, hexFieldValue(reloadText)),
+                                           timerCycleDivider(timer));
     return text8("Die Überlauffrequenz des Timer ") + std::to_string(timer) + text8(" beträgt ") +
            str(rate.frequency) + " Hz, die Periodendauer " + str(rate.periodMs) + " ms.";
 }
@@ -150,7 +151,7 @@ void Assistent52::writeTimer2(ProgramParts& out, const GenerationContext& contex
     const std::int64_t reload = std::int64_t{hexFieldValue(s_.T2Text4.text)} +
                                 256 * std::int64_t{hexFieldValue(s_.T2Text5.text)};
     const auto rateText = [&](double divisor) {
-        const OverflowRate rate = overflowRate(context.fosc, divisor);
+        const OverflowRate rate = overflowRate(context.fosc, divisor, timerCycleDivider(2));
         return text8(" Die Überlauffrequenz beträgt ") + str(rate.frequency) +
                " Hz, die Periodendauer " + str(rate.periodMs) + " ms.";
     };

@@ -115,7 +115,7 @@ void Assistent52::T1Check0Click() {
             return;
         }
         GuardHold hold(generationGuard_, guard_code::kConflictAnswer);
-        setCheck(s_.UCheck1, 0);
+        freeTimer1FromSerialPort();
     }
     if (s_.T0Combo1.listIndex == 3 && on) {
         host_.note(text8(
@@ -209,7 +209,8 @@ void Assistent52::TimerCommandClick(const TimerControls& timer) {
         if (frequency <= 0) return;
         const float megahertz = clockMegahertz();
         if (megahertz <= 0) return;
-        setText(timer.high, hex2(timer01ReloadForFrequency(effectiveMegahertz(), frequency)));
+        setText(timer.high, hex2(timer01ReloadForFrequency(effectiveMegahertz(), frequency,
+                                                           timerCycleDivider(timer.number))));
     });
 }
 

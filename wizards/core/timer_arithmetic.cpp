@@ -50,8 +50,8 @@ BaudSetting timer2Baud(float fosc, double baud) {
     return setting;
 }
 
-std::int32_t timer01ReloadForFrequency(float clockMegahertz, double frequency) {
-    double q = (static_cast<double>(clockMegahertz) * 1e6 / 12.0) / frequency;
+std::int32_t timer01ReloadForFrequency(float clockMegahertz, double frequency, int cycleDivider) {
+    double q = (static_cast<double>(clockMegahertz) * 1e6 / cycleDivider) / frequency;
     if (q > 256) q = 256;
     return roundToInt32(256 - q);
 }

@@ -22,6 +22,7 @@ class Assistent51 : public assistent52::Assistent52 {
     void writeTimer2(assistent52::ProgramParts&, const assistent52::GenerationContext&) override {}
 
   private:
+    assistent52::Timer1PortControls port();
     int lastSerialMode_ = 0;  // where a No to the question about Timer 1 goes back
 };
 

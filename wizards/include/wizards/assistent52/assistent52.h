@@ -11,6 +11,7 @@
 
 #include "wizards/assistent52/chip_profile.h"
 #include "wizards/assistent52/wizard_settings.h"
+#include "wizards/core/timer_arithmetic.h"
 #include "wizards/core/wizard.h"
 
 namespace korvex::wizards::assistent52 {
@@ -48,6 +49,19 @@ enum Timer2Function : int {
     T2UpDownCounter,
     T2ClockOutput,
     T2BaudOscillatorOutput,
+};
+
+// A serial port whose only baud-rate generator is Timer 1 (the 8051's, the
+// DS80C320's second): its switch, modes, flags and the baud-rate list.
+struct Timer1PortControls {
+    CheckBox& use;
+    Frame& frame;
+    OptionGroup& mode;
+    CheckBox& sm2;
+    CheckBox& receive;
+    CheckBox& doubling;
+    ComboBox& baud;
+    int& lastMode;  // where a No to the question about Timer 1 goes back
 };
 
 // The fields of Timer 0 or Timer 1, which share their rules.
@@ -103,6 +117,11 @@ class Assistent52 : public Wizard {
     TimerControls timer0();
     TimerControls timer1();
 
+    // The rules of a port that only Timer 1 can time: switching it on with
+    // Timer 1 busy leaves modes 0 and 2; a mode that needs Timer 1 asks for it.
+    void timer1PortUseClick(const Timer1PortControls& port);
+    void timer1PortModeClick(const Timer1PortControls& port, int index);
+
   protected:
     // A chip built on the base: its record is the base's with the chip's
     // interrupt sources, and its profile says what it writes differently.
@@ -117,6 +136,12 @@ class Assistent52 : public Wizard {
     virtual float effectiveMegahertz() const { return clockMegahertz(); }
     // Timer 1 times the serial port: taking it for other work needs a question.
     virtual bool timer1TimesSerialPort() const;
+    // The answer Yes to taking Timer 1 from the serial port.
+    virtual void freeTimer1FromSerialPort();
+    // Machine cycle of a timer (0 to 2) in oscillator periods.
+    virtual int timerCycleDivider(int) const { return kClassicCycleDivider; }
+    // What Timer 1's baud rate is multiplied by beyond SMOD (a fast timer clock).
+    virtual double timer1BaudFactor() const { return 1; }
     virtual bool timer2InterruptEnabled() const;
     // Whether source i counts as used: enabled or marked for high priority.
     virtual bool interruptUsed(std::size_t source) const;
