@@ -3,6 +3,7 @@
 #include <functional>
 #include <utility>
 
+#include "wizards/assistent320/assistent320.h"
 #include "wizards/assistent51/assistent51.h"
 #include "wizards/assistent52/assistent52.h"
 #include "wizards/assistent89s53/assistent89s53.h"
@@ -25,6 +26,7 @@ const std::vector<std::pair<std::string, Maker>>& wizards() {
         {"51", maker<assistent51::Assistent51>()},
         {"52", maker<assistent52::Assistent52>()},
         {"89S53", maker<assistent89s53::Assistent89S53>()},
+        {"320", maker<assistent320::Assistent320>()},
     };
     return table;
 }

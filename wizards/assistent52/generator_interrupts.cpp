@@ -19,20 +19,34 @@ void Assistent52::writeInterruptEnables(ProgramParts& out, const GenerationConte
         }
     };
     for (std::size_t i = 0; i < profile_.interrupts.size(); ++i) {
-        if (s_.ICheck1[i].value != 0) {
+        if (interruptEnabled(i)) {
             line(code, profile_.interrupts[i].enableLine);
             if (i == kExternal0Interrupt) trigger(s_.IOption1, "IT0");
             if (i == kExternal1Interrupt) trigger(s_.IOption2, "IT1");
         }
-        if (s_.ICheck2[i].value != 0) line(code, profile_.interrupts[i].priorityLine);
+        if (interruptHighPriority(i)) line(code, profile_.interrupts[i].priorityLine);
     }
     if (s_.ICheck0.value != 0) line(code, "setb EA\t; globale Interruptfreigabe");
 }
 
+bool Assistent52::interruptEnabled(std::size_t source) const {
+    return s_.ICheck1[source].value != 0;
+}
+
+bool Assistent52::interruptHighPriority(std::size_t source) const {
+    return s_.ICheck2[source].value != 0 && *profile_.interrupts[source].priorityLine != '\0';
+}
+
+bool Assistent52::serialLoop(const GenerationContext& context) const {
+    for (std::size_t i = 0; i < profile_.interrupts.size(); ++i) {
+        if (context.used[i] && profile_.interrupts[i].kind == RoutineKind::Serial) return true;
+    }
+    return false;
+}
+
 void Assistent52::writeMainProgram(ProgramParts& out, const GenerationContext& context) {
     std::string& code = out.code;
-    if (!context.used[kSerialInterrupt] ||
-        profile_.interrupts[kSerialInterrupt].kind != RoutineKind::Serial) {
+    if (!serialLoop(context)) {
         line(code);
         line(code, "end");
         line(code, "; * * * Hauptprogramm Ende * * *");
@@ -51,21 +65,50 @@ void Assistent52::writeMainProgram(ProgramParts& out, const GenerationContext& c
 }
 
 void Assistent52::writeLoopBlocks(std::string& code) {
-    if (s_.UCheck1.value == 0) return;
-    for (const char* text :
-         {"\tif bit Empfang then", "\t\tclr Empfang", "\t\tSerielle Daten auswerten", "\tend if"}) {
-        line(code, text);
-    }
+    if (s_.UCheck1.value != 0) writeSerialLoopBlock(code, {});
 }
 
 void Assistent52::writeLoopSubroutines(std::string& code) {
-    if (s_.UCheck1.value == 0) return;
-    for (const char* text :
-         {"", "Serielle Daten auswerten:", "\tmov a, SBUF", "\t; weitere Befehle", "ret", "",
-          "Sende:\t; Sendewert in a", "\tjb Sendebusy, hier\t; auf Sendefreigabe warten",
-          "\tmov SBUF, a", "\tsetb Sendebusy", "ret"}) {
-        line(code, text);
+    if (s_.UCheck1.value != 0) writeSerialSubroutines(code, {});
+}
+
+void Assistent52::writeSerialLoopBlock(std::string& code, const SerialNames& names) {
+    const std::string received = "Empfang" + names.suffix;
+    const std::string evaluate = "Serielle Daten" + names.suffix + " auswerten";
+    line8(code, "\tif bit " + received + " then");
+    line8(code, "\t\tclr " + received);
+    if (names.frameError.empty()) {
+        line8(code, "\t\t" + evaluate);
+    } else {
+        line8(code, "\t\tif bit " + names.frameError + " then");
+        line8(code, "\t\t\tclr " + names.frameError);
+        line8(code, "\t\t\tFraming Error" + names.suffix);
+        line8(code, "\t\telse");
+        line8(code, "\t\t\t" + evaluate);
+        line8(code, "\t\tend if");
     }
+    line(code, "\tend if");
+}
+
+void Assistent52::writeSerialSubroutines(std::string& code, const SerialNames& names) {
+    const std::string busy = "Sendebusy" + names.suffix;
+    line(code);
+    line8(code, "Serielle Daten" + names.suffix + " auswerten:");
+    line8(code, "\tmov a, " + names.buffer);
+    line(code, "\t; weitere Befehle");
+    line(code, "ret");
+    if (!names.frameError.empty()) {
+        line(code);
+        line8(code, "Framing Error" + names.suffix + ":");
+        line(code, "\t; Fehlerbehandlung einfügen");
+        line(code, "ret");
+    }
+    line(code);
+    line8(code, "Sende" + names.suffix + ":\t; Sendewert in a");
+    line8(code, "\tjb " + busy + text8(", hier\t; auf Sendefreigabe warten"));
+    line8(code, "\tmov " + names.buffer + ", a");
+    line8(code, "\tsetb " + busy);
+    line(code, "ret");
 }
 
 void Assistent52::writeRoutines(ProgramParts& out, const GenerationContext& context) {
@@ -96,12 +139,21 @@ void Assistent52::writeRoutine(ProgramParts& out, const GenerationContext&, std:
 }
 
 void Assistent52::writeSerialRoutine(std::string& code, ProgramParts& out) {
-    for (const char* text :
-         {"\t; Herkunft ermitteln", "\tif bit TI then\t; Senden", "\t\tclr TI", "\t\tclr Sendebusy",
-          "\telse\t; Empfangen", "\t\tclr RI", "\t\tsetb Empfang", "\tend if", "reti"}) {
-        line(code, text);
-    }
-    line(out.declarations, "#Bit Empfang, Sendebusy");
+    writeSerialRoutineLines(code, out.declarations, {});
+}
+
+void Assistent52::writeSerialRoutineLines(std::string& code, std::string& declarations,
+                                          const SerialNames& names) {
+    line(code, "\t; Herkunft ermitteln");
+    line8(code, "\tif bit " + names.ti + " then\t; Senden");
+    line8(code, "\t\tclr " + names.ti);
+    line8(code, "\t\tclr Sendebusy" + names.suffix);
+    line(code, "\telse\t; Empfangen");
+    line8(code, "\t\tclr " + names.ri);
+    line8(code, "\t\tsetb Empfang" + names.suffix);
+    line(code, "\tend if");
+    line(code, "reti");
+    line8(declarations, "#Bit Empfang" + names.suffix + ", Sendebusy" + names.suffix);
 }
 
 void Assistent52::writeTimer2Routine(std::string& code, std::size_t source) {

@@ -7,13 +7,19 @@
 namespace korvex::wizards::assistent52 {
 
 void Assistent52::writeTimer1BaudLines(std::string& code, float fosc, double baud) {
+    writeTimer1BaudLines(code, fosc, baud, s_.UCheck4.value != 0, &s_.T1Text2);
+}
+
+double Assistent52::writeTimer1BaudLines(std::string& code, float fosc, double baud, bool doubled,
+                                         TextBox* reloadField) {
     const BaudSetting setting =
-        timer1Baud(static_cast<float>(fosc * timer1BaudFactor()), baud, s_.UCheck4.value != 0);
+        timer1Baud(static_cast<float>(fosc * timer1BaudFactor()), baud, doubled);
     line(code, load("TMOD", "20h") + "\t; Timer 1 Autoreloadmodus");
     line8(code, load("TH1", hexText(setting.reload)) + text8("h\t; Reloadwert für Baudrate ") +
                     str(toSingle(setting.actual)));
     if (!s_.T0Check3.visible) line(code, "setb TR1\t; Timer 1 Start");
-    s_.T1Text2.text = hexText(setting.reload);
+    if (reloadField != nullptr) reloadField->text = hexText(setting.reload);
+    return setting.actual;
 }
 
 void Assistent52::writeTimer2BaudLines(std::string& code, float fosc, double baud,
@@ -80,7 +86,8 @@ void Assistent52::writeBaudLines(std::string& code, float fosc) {
 void Assistent52::writeSerialPort(ProgramParts& out, const GenerationContext& context) {
     const float fosc = context.fosc;
     const bool doubled = s_.UCheck4.value != 0;
-    s_.UOption1.buttons[0].caption = "Modus 0, synchron, 8 Bit, " + str(fosc / 12.0f) + " Baud";
+    s_.UOption1.buttons[0].caption =
+        "Modus 0, synchron, 8 Bit, " + str(serialMode0Baud(fosc)) + " Baud";
     s_.UOption1.buttons[2].caption =
         profile_.mode2Caption +
         doubleText((doubled ? 2.0 : 1.0) * fosc / 64.0, options_.numberFormat) + " Baud";
@@ -88,7 +95,7 @@ void Assistent52::writeSerialPort(ProgramParts& out, const GenerationContext& co
 
     std::string& code = out.code;
     line(code);
-    line(code, "; Serieller Port");
+    line8(code, serialPortTitle());
     int scon = 0;
     std::string flags;
     if (s_.UCheck2.value != 0) {
@@ -101,12 +108,14 @@ void Assistent52::writeSerialPort(ProgramParts& out, const GenerationContext& co
     }
     const int mode = s_.UOption1.selected;
     if (mode == 0) {
-        line8(code, "; Modus 0 ist aktiv mit Baudrate = " + str(fosc / 12.0f));
+        line8(code, "; Modus 0 ist aktiv mit Baudrate = " + str(serialMode0Baud(fosc)));
+        writeSerialMode0Extras(code);
     } else if (mode == 2) {
-        line8(code, load("SCON", hexText(scon + 128)) + "h\t; " + s_.UOption1.buttons[2].caption);
+        line8(code,
+              load(sconName(), hexText(scon + 128)) + "h\t; " + s_.UOption1.buttons[2].caption);
     } else {
         // The SCON line of modes 1 and 3 stays open: each baud branch begins with its line end.
-        code += load("SCON", hexText(scon + (mode == 1 ? 64 : 192))) + "h\t; " +
+        code += load(sconName(), hexText(scon + (mode == 1 ? 64 : 192))) + "h\t; " +
                 s_.UOption1.buttons[static_cast<std::size_t>(mode)].caption + flags;
         writeBaudLines(code, fosc);
     }

@@ -136,6 +136,7 @@ void Assistent52::T1Check0Click() {
         GuardHold hold(generationGuard_, guard_code::kNestedSerialCheck);
         UCheck1Click();
     }
+    if (!on) timer1Released();
     regenerateProgram();
 }
 

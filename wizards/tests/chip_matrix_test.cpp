@@ -146,9 +146,72 @@ std::vector<Case> cases89S53() {
     return cases;
 }
 
+std::vector<Case> cases320() {
+    std::vector<Case> cases = {
+        {"320", "Defaults", {}},
+        {"320", "SystemAll", {"SText2=30", "SCheck1=1", "SCombo1=2", "SCheck2=1"}},
+        {"320",
+         "FastTimersAndMovx",
+         {"S2Check1(0)=1", "S2Check1(1)=1", "S2Check1(2)=1", "S2Combo1=7", "T0Combo1=2",
+          "T0Text2=10", "T1Check0=1", "T2Check0=1"}},
+        {"320", "Port0Mode0Tripled", {"UCheck1=1", "UCheck2=1"}},
+        {"320",
+         "Port0Mode1FastTimer1",
+         {"S2Check1(1)=1", "UCheck1=1", "UOption1=1", "UCheck3=1", "UCombo3=9600"}},
+        {"320", "Port0ReceiveT2SendT1", {"UCheck1=1", "UOption1=3", "UCombo1=1", "UCombo4=4800"}},
+        {"320", "Port0BothT2", {"UCheck1=1", "UOption1=1", "UCombo1=1", "UCombo2=1"}},
+        {"320",
+         "Port0Mode2Sm2FrameErrors",
+         {"UCheck1=1", "UOption1=2", "UCheck2=1", "UCheck3=1", "UCheck4=1", "UCheck5=1"}},
+        {"320", "Port1Mode0Tripled", {"U1Check1=1", "U1Check2=1"}},
+        {"320",
+         "Port1Mode1Doubled",
+         {"U1Check1=1", "U1Option1=1", "U1Check3=1", "U1Check4=1", "U1Combo1=19200"}},
+        {"320", "Port1Mode2", {"U1Check1=1", "U1Option1=2", "U1Check2=1", "U1Check3=1"}},
+        {"320",
+         "BothPortsOnTimer1",
+         {"UCheck1=1", "UOption1=1", "U1Check1=1", "U1Option1=3", "U1Check4=1", "UCheck5=1",
+          "ICheck1(4)=1", "ICheck1(7)=1", "ICheck0=1"}},
+        {"320",
+         "Port1OnTimer1Port0OnTimer2",
+         {"UCheck1=1", "UOption1=1", "UCombo1=1", "UCombo2=1", "U1Check1=1", "U1Option1=1",
+          "ICheck1(7)=1"}},
+        {"320",
+         "Addresses",
+         {"MCText2(0)=12", "MCText1(1)=11110000", "MCText2(2)=34", "MCText2(3)=FF"}},
+        {"320",
+         "AllInterrupts",
+         {"ICheck1(0)=1", "ICheck1(1)=1", "ICheck1(2)=1", "ICheck1(3)=1", "ICheck1(5)=1",
+          "ICheck3=1", "ICheck1(8)=1", "ICheck1(9)=1", "ICheck1(10)=1", "ICheck1(11)=1",
+          "ICheck1(12)=1", "ICheck2(0)=1", "ICheck2(8)=1", "ICheck2(12)=1", "IOption1=1",
+          "ICheck0=1"}},
+        {"320", "SerialInterruptsWithoutPorts", {"ICheck1(4)=1", "ICheck1(7)=1"}, kOpenLoop},
+        {"320",
+         "Everything",
+         {"S2Check1(0)=1", "SText2=40", "UCheck1=1", "UOption1=3", "UCombo1=1", "U1Check1=1",
+          "U1Option1=1", "MCText2(0)=55", "WCheck2=1", "WCheck3(0)=1", "ICheck1(1)=1",
+          "ICheck1(4)=1", "ICheck1(7)=1", "ICheck1(5)=1", "ICheck0=1"}},
+    };
+    for (int period = 0; period < 4; ++period) {
+        cases.push_back(
+            {"320",
+             "Watchdog" + std::to_string(period),
+             {"WCheck2=1", "WCheck1(" + std::to_string(period) + ")=1", "WCheck3(0)=1",
+              "WCheck3(1)=1", "WCheck3(2)=1", "ICheck1(1)=1", "ICheck1(3)=1", "ICheck1(5)=1"}});
+    }
+    for (int function = 0; function < 10; ++function) {
+        cases.push_back({"320",
+                         "Timer2Function" + std::to_string(function),
+                         {"S2Check1(2)=1", "T2Check0=1", "T2Text4=F0", "T2Text5=FF",
+                          "T2Combo1=" + std::to_string(function), "ICheck1(5)=1"}});
+    }
+    addTimerCases(cases, "320");
+    return cases;
+}
+
 std::vector<Case> allCases() {
     std::vector<Case> cases;
-    for (auto&& chipCases : {cases51(), cases89S53()}) {
+    for (auto&& chipCases : {cases51(), cases89S53(), cases320()}) {
         cases.insert(cases.end(), chipCases.begin(), chipCases.end());
     }
     return cases;

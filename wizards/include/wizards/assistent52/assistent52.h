@@ -64,6 +64,16 @@ struct Timer1PortControls {
     int& lastMode;  // where a No to the question about Timer 1 goes back
 };
 
+// The names a serial port's routine, loop block and subroutines use; the
+// base's port has no suffix, the chips with two ports say " 0" and " 1".
+struct SerialNames {
+    std::string ti = "TI";
+    std::string ri = "RI";
+    std::string buffer = "SBUF";
+    std::string suffix;
+    std::string frameError;  // the bit to test for a framing error, if any
+};
+
 // The fields of Timer 0 or Timer 1, which share their rules.
 struct TimerControls {
     int number;
@@ -138,6 +148,8 @@ class Assistent52 : public Wizard {
     virtual bool timer1TimesSerialPort() const;
     // The answer Yes to taking Timer 1 from the serial port.
     virtual void freeTimer1FromSerialPort();
+    // Timer 1 was given back from other work.
+    virtual void timer1Released() {}
     // Machine cycle of a timer (0 to 2) in oscillator periods.
     virtual int timerCycleDivider(int) const { return kClassicCycleDivider; }
     // What Timer 1's baud rate is multiplied by beyond SMOD (a fast timer clock).
@@ -200,11 +212,29 @@ class Assistent52 : public Wizard {
     // subroutines behind its end. No blocks leave the loop open.
     virtual void writeLoopBlocks(std::string& code);
     virtual void writeLoopSubroutines(std::string& code);
+    void writeSerialLoopBlock(std::string& code, const SerialNames& names);
+    void writeSerialSubroutines(std::string& code, const SerialNames& names);
+    void writeSerialRoutineLines(std::string& code, std::string& declarations,
+                                 const SerialNames& names);
+    // Whether a used source has a serial routine: then the main program is a loop.
+    bool serialLoop(const GenerationContext& context) const;
+    // The serial port's register and section title, and its rate in mode 0.
+    virtual std::string sconName() const { return "SCON"; }
+    virtual std::string serialPortTitle() const { return "; Serieller Port"; }
+    virtual float serialMode0Baud(float fosc) const { return fosc / 12.0f; }
+    // Lines of mode 0 behind its comment.
+    virtual void writeSerialMode0Extras(std::string&) {}
+    // Whether source i is enabled or has the high priority.
+    virtual bool interruptEnabled(std::size_t source) const;
+    virtual bool interruptHighPriority(std::size_t source) const;
     // The baud-rate lines of modes 1 and 3, behind the open SCON line.
     virtual void writeBaudLines(std::string& code, float fosc);
 
     // Pieces of the sections.
     void writeTimer1BaudLines(std::string& code, float fosc, double baud);
+    // The same for a port with its own doubling bit; returns the actual rate.
+    double writeTimer1BaudLines(std::string& code, float fosc, double baud, bool doubled,
+                                TextBox* reloadField);
     void writeTimer2BaudLines(std::string& code, float fosc, double baud, const std::string& t2con);
     std::string overflowText(float fosc, int timer, int mode, const std::string& reloadText) const;
     std::string str(float value) const { return singleText(value, options_.numberFormat); }
