@@ -5,6 +5,7 @@
 
 #include "wizards/assistent320/assistent320.h"
 #include "wizards/assistent51/assistent51.h"
+#include "wizards/assistent515/assistent515.h"
 #include "wizards/assistent52/assistent52.h"
 #include "wizards/assistent89s53/assistent89s53.h"
 
@@ -27,6 +28,7 @@ const std::vector<std::pair<std::string, Maker>>& wizards() {
         {"52", maker<assistent52::Assistent52>()},
         {"89S53", maker<assistent89s53::Assistent89S53>()},
         {"320", maker<assistent320::Assistent320>()},
+        {"515", maker<assistent515::Assistent515>()},
     };
     return table;
 }

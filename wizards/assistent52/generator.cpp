@@ -46,6 +46,7 @@ void Assistent52::regenerateProgram() {
     writeInterruptEnables(out, context);
     writeMainProgram(out, context);
     writeRoutines(out, context);
+    finishProgram(out, context);
     setPreview(out.header + std::string(kLineEnd) + out.declarations + out.code);
 }
 

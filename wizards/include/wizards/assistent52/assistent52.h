@@ -194,6 +194,8 @@ class Assistent52 : public Wizard {
     virtual void writeInterruptEnables(ProgramParts& out, const GenerationContext& context);
     virtual void writeMainProgram(ProgramParts& out, const GenerationContext& context);
     virtual void writeRoutines(ProgramParts& out, const GenerationContext& context);
+    // The last step of a generation, once all sections are written.
+    virtual void finishProgram(ProgramParts&, const GenerationContext&) {}
     // One source's routine, behind its empty line.
     virtual void writeRoutine(ProgramParts& out, const GenerationContext& context,
                               std::size_t source);
