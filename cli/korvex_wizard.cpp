@@ -148,6 +148,10 @@ std::string describe(const ControlRef& ref) {
         std::string operator()(const ComboBox* c) const {
             return std::to_string(c->listIndex) + " \"" + c->text + "\"";
         }
+        std::string operator()(const Slider* c) const {
+            return std::to_string(c->value) + " (" + std::to_string(c->minimum) + ".." +
+                   std::to_string(c->maximum) + ")";
+        }
         std::string operator()(const Label* c) const { return "\"" + c->caption + "\""; }
         std::string operator()(const CommandButton* c) const { return "\"" + c->caption + "\""; }
         std::string operator()(const Frame*) const { return ""; }

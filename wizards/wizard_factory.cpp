@@ -7,6 +7,7 @@
 #include "wizards/assistent51/assistent51.h"
 #include "wizards/assistent515/assistent515.h"
 #include "wizards/assistent52/assistent52.h"
+#include "wizards/assistent552/assistent552.h"
 #include "wizards/assistent89s53/assistent89s53.h"
 
 namespace korvex::wizards {
@@ -29,6 +30,7 @@ const std::vector<std::pair<std::string, Maker>>& wizards() {
         {"89S53", maker<assistent89s53::Assistent89S53>()},
         {"320", maker<assistent320::Assistent320>()},
         {"515", maker<assistent515::Assistent515>()},
+        {"552", maker<assistent552::Assistent552>()},
     };
     return table;
 }

@@ -23,6 +23,7 @@ void Assistent52::writeInterruptEnables(ProgramParts& out, const GenerationConte
             line(code, profile_.interrupts[i].enableLine);
             if (i == kExternal0Interrupt) trigger(s_.IOption1, "IT0");
             if (i == kExternal1Interrupt) trigger(s_.IOption2, "IT1");
+            writeEnableExtras(code, i);
         }
         if (interruptHighPriority(i)) line(code, profile_.interrupts[i].priorityLine);
     }

@@ -268,9 +268,55 @@ std::vector<Case> cases515() {
     return cases;
 }
 
+std::vector<Case> cases552() {
+    std::vector<Case> cases = {
+        {"552", "Defaults", {}},
+        {"552", "SystemAll", {"SText2=30", "SCheck1=1", "SCheck2=1", "SText5=Waage"}},
+        {"552", "Bank1", {"SCombo1=1"}, kOrBank},
+        {"552", "SerialMode0", {"UCheck1=1"}},
+        {"552", "SerialMode1Doubled", {"UCheck1=1", "UOption1=1", "UCheck4=1", "UCombo1=19200"}},
+        {"552", "SerialMode3", {"UCheck1=1", "UOption1=3", "UCheck2=1", "UCheck3=1"}},
+        {"552",
+         "SerialWithInterrupt",
+         {"UCheck1=1", "UOption1=1", "UCheck3=1", "ICheck1(4)=1", "ICheck0=1"}},
+        {"552",
+         "Timer2CaptureCompare",
+         {"T2Check0=1", "T2Combo2=3", "T2Check1=1", "CTCombo1(0)=1", "CTCombo1(1)=2",
+          "CTCombo1(2)=3", "CTCombo1(3)=1", "CMText1(0)=10", "CMText2(0)=20", "CMText1(2)=FF",
+          "STEText1=3F", "RTEText1=0C"}},
+        {"552", "Timer2Counter", {"T2Check0=1", "T2Combo1=1", "T2Combo2=1"}},
+        {"552",
+         "PwmBoth",
+         {"PWMCheck1=1", "PWMCheck2=1", "PWMSlider1=0", "PWMSlider2=255", "!PWMCommand"},
+         {},
+         {"50"}},
+        {"552",
+         "I2cMasterOnTimer1",
+         {"T1Check0=1", "T1Combo1=2", "T1Text2=F0", "T1Check2=1", "ICCheck1=1", "ICSlider1=7"}},
+        {"552",
+         "I2cSlaveWithServiceRoutine",
+         {"ICCheck1=1", "ICSlider1=4", "ICCheck2=1", "ICText1=50", "ICCheck4=1", "ICheck3=1",
+          "ICheck1(5)=1", "ICheck2(5)=1", "ICheck0=1"}},
+        {"552",
+         "AnalogAndWatchdog",
+         {"ADCheck1=1", "ADCombo1=7", "ADCheck2=1", "ADCheck3=1", "WDCheck1=1", "WDText1=C0",
+          "WDCheck3(0)=1", "WDCheck3(1)=1", "WDCheck3(2)=1", "ICheck1(1)=1", "ICheck1(3)=1",
+          "ICheck1(14)=1", "ICheck1(10)=1"}},
+    };
+    Case all{"552", "AllInterrupts", {"IOption1=1", "ICheck0=1", "T2Check0=1", "T2Check2=1"}};
+    for (int i = 0; i < 15; ++i) {
+        if (i == 4) continue;  // the serial loop stays open without the port
+        all.settings.push_back("ICheck1(" + std::to_string(i) + ")=1");
+        if (i % 3 == 0) all.settings.push_back("ICheck2(" + std::to_string(i) + ")=1");
+    }
+    cases.push_back(all);
+    addTimerCases(cases, "552");
+    return cases;
+}
+
 std::vector<Case> allCases() {
     std::vector<Case> cases;
-    for (auto&& chipCases : {cases51(), cases89S53(), cases320(), cases515()}) {
+    for (auto&& chipCases : {cases51(), cases89S53(), cases320(), cases515(), cases552()}) {
         cases.insert(cases.end(), chipCases.begin(), chipCases.end());
     }
     return cases;

@@ -118,6 +118,7 @@ std::string WizardSession::value(const std::string& name) const {
         std::string operator()(const CheckBox* c) const { return std::to_string(c->value); }
         std::string operator()(const OptionGroup* c) const { return std::to_string(c->selected); }
         std::string operator()(const ComboBox* c) const { return std::to_string(c->listIndex); }
+        std::string operator()(const Slider* c) const { return std::to_string(c->value); }
         std::string operator()(const Label* c) const { return c->caption; }
         std::string operator()(const CommandButton* c) const { return c->caption; }
         std::string operator()(const Frame* c) const { return c->caption; }

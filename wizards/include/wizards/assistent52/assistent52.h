@@ -226,6 +226,8 @@ class Assistent52 : public Wizard {
     virtual float serialMode0Baud(float fosc) const { return fosc / 12.0f; }
     // Lines of mode 0 behind its comment.
     virtual void writeSerialMode0Extras(std::string&) {}
+    // Lines behind a source's enable line.
+    virtual void writeEnableExtras(std::string&, std::size_t) {}
     // Whether source i is enabled or has the high priority.
     virtual bool interruptEnabled(std::size_t source) const;
     virtual bool interruptHighPriority(std::size_t source) const;

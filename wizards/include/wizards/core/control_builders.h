@@ -54,6 +54,14 @@ inline ComboBox comboBox(const char* name, std::initializer_list<const char*> it
     return list;
 }
 
+inline Slider slider(const char* name, int minimum, int maximum, int value = 0, int index = -1) {
+    auto s = named<Slider>(name, index);
+    s.minimum = static_cast<std::int16_t>(minimum);
+    s.maximum = static_cast<std::int16_t>(maximum);
+    s.value = static_cast<std::int16_t>(value);
+    return s;
+}
+
 inline Label label(const char* name, const char* caption) {
     auto l = named<Label>(name);
     l.caption = text8(caption);

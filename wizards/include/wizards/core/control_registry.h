@@ -13,8 +13,8 @@
 
 namespace korvex::wizards {
 
-using ControlRef =
-    std::variant<TextBox*, CheckBox*, OptionGroup*, ComboBox*, Label*, CommandButton*, Frame*>;
+using ControlRef = std::variant<TextBox*, CheckBox*, OptionGroup*, ComboBox*, Slider*, Label*,
+                                CommandButton*, Frame*>;
 
 class ControlRegistry {
   public:

@@ -78,7 +78,8 @@ class Wizard {
     const std::vector<ColouredRange>& previewColouring() const { return colouring_; }
 
     // What the user does, by control name. Check boxes take 0 or 1, option
-    // groups and lists the index, editable lists and text fields their text.
+    // groups and lists the index, sliders their position, editable lists and
+    // text fields their text.
     void userSets(const std::string& name, int index, const std::string& value);
     void userClicks(const std::string& name, int index = -1);
     void userLeaves(const std::string& name, int index = -1);
@@ -116,6 +117,7 @@ class Wizard {
     void setListIndex(ComboBox& list, int index);
     void setText(TextBox& box, const std::string& text);
     void setListText(ComboBox& list, const std::string& text);
+    void setSlider(Slider& slider, int value);
     // Runs the change operation of a control as an event would.
     void fireChange(const Control& control);
 
