@@ -13,6 +13,7 @@
 #include "base/cp1252.h"
 #include "base/failure.h"
 #include "base/files.h"
+#include "base/program_folder.h"
 #include "base/text.h"
 #include "cli/run_guard.h"
 #include "cli/terminal_text.h"
@@ -24,7 +25,7 @@ namespace {
 using namespace korvex;
 using namespace korvex::wizards;
 
-constexpr const char* kHelp =
+constexpr const char* kHelpHead =
     "Aufruf: korvex-wizard CHIP [Optionen]\n"
     "\n"
     "Führt einen Chip-Assistenten ohne Bildschirm aus und gibt das erzeugte\n"
@@ -32,8 +33,9 @@ constexpr const char* kHelp =
     "geändert, jede über die Regel ihres Steuerelements, wie ein Mausklick sie\n"
     "auslöst: Rückfragen, Hinweise und Sperren gelten wie im Dialog.\n"
     "\n"
-    "Chips:\n"
-    "  52                   Assistent 80C52 / 80C32\n"
+    "Chips:\n";
+
+constexpr const char* kHelp =
     "\n"
     "Optionen:\n"
     "  --set FELD=WERT      ein Feld ändern. Kontrollkästchen nehmen 0 oder 1,\n"
@@ -47,6 +49,8 @@ constexpr const char* kHelp =
     "  --decimal-point      Dezimalpunkt statt Dezimalkomma in Zahlen\n"
     "  --fields             nach dem Programm alle Felder mit Zustand ausgeben\n"
     "  -o DATEI             Programm als Datei schreiben (Windows-1252, CR LF)\n"
+    "  --program-folder ORDNER  Programmordner, aus dem ein Assistent liest\n"
+    "                       (c552iic.dat für den 80C552)\n"
     "  --help               diese Hilfe zeigen\n"
     "\n"
     "Meldungen und Rückfragen erscheinen auf der Standardfehlerausgabe.\n"
@@ -73,11 +77,12 @@ struct Options {
     bool decimalPoint = false;
     bool fields = false;
     std::string outputFile;
+    std::string programFolder;
 };
 
 int usageError(const std::string& message) {
     std::cerr << "korvex-wizard: " << message << "\n"
-              << "Aufruf: korvex-wizard 52 [--set FELD=WERT]... [--click FELD]... "
+              << "Aufruf: korvex-wizard CHIP [--set FELD=WERT]... [--click FELD]... "
                  "[--answer ja|nein]... [--input TEXT]... [--date TEXT] [-o DATEI]\n";
     return kExitUsage;
 }
@@ -143,6 +148,10 @@ std::string describe(const ControlRef& ref) {
         std::string operator()(const ComboBox* c) const {
             return std::to_string(c->listIndex) + " \"" + c->text + "\"";
         }
+        std::string operator()(const Slider* c) const {
+            return std::to_string(c->value) + " (" + std::to_string(c->minimum) + ".." +
+                   std::to_string(c->maximum) + ")";
+        }
         std::string operator()(const Label* c) const { return "\"" + c->caption + "\""; }
         std::string operator()(const CommandButton* c) const { return "\"" + c->caption + "\""; }
         std::string operator()(const Frame*) const { return ""; }
@@ -200,6 +209,10 @@ int parseArguments(const std::vector<std::string>& args, Options& options) {
             const std::string* value = next("-o");
             if (value == nullptr) return usageError("-o braucht einen Dateinamen.");
             options.outputFile = *value;
+        } else if (arg == "--program-folder") {
+            const std::string* value = next("--program-folder");
+            if (value == nullptr) return usageError("--program-folder braucht einen Ordner.");
+            options.programFolder = *value;
         } else if (arg == "--decimal-point") {
             options.decimalPoint = true;
         } else if (arg == "--fields") {
@@ -223,7 +236,14 @@ int parseArguments(const std::vector<std::string>& args, Options& options) {
 int runWizard(const std::vector<std::string>& args) {
     for (const auto& arg : args) {
         if (arg == "--help" || arg == "-h") {
-            std::cout << kHelp;
+            std::cout << toTerminal(text8(kHelpHead));
+            ScriptedWizardHost quiet;
+            for (const std::string& chip : wizardChips()) {
+                const std::string title = makeWizard(chip, quiet, {})->windowTitle();
+                std::cout << "  " << chip << std::string(21 - chip.size(), ' ')
+                          << toTerminal(trimBlanks(title)) << '\n';
+            }
+            std::cout << toTerminal(text8(kHelp));
             return kExitClean;
         }
     }
@@ -236,6 +256,8 @@ int runWizard(const std::vector<std::string>& args) {
     WizardOptions wizardOptions;
     wizardOptions.numberFormat.decimalMark = options.decimalPoint ? '.' : ',';
     if (options.dateGiven) wizardOptions.now = [date = options.date] { return date; };
+    wizardOptions.programFolder =
+        resolveProgramFolder(processProgramFolderSources(options.programFolder));
 
     try {
         const std::unique_ptr<Wizard> wizard = makeWizard(options.chip, host, wizardOptions);

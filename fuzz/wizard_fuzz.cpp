@@ -64,6 +64,9 @@ class Reader {
 std::size_t choices(const ControlRef& ref) {
     if (const auto* group = std::get_if<OptionGroup*>(&ref)) return (*group)->buttons.size();
     if (const auto* list = std::get_if<ComboBox*>(&ref)) return (*list)->items.size();
+    if (const auto* slider = std::get_if<Slider*>(&ref)) {
+        return static_cast<std::size_t>((*slider)->maximum) + 1;
+    }
     return 2;
 }
 

@@ -198,7 +198,7 @@ TEST_F(ProgramsTest, HelpExitsCleanAndWrongCallsGive64) {
          {"", "--bogus x.bin", "a.bin b.bin", "x.bin -o", "x.bin --controller"}},
         {KORVEX_WIZARD,
          "Aufruf: korvex-wizard CHIP",
-         {"", "51", "52 --bogus", "52 --set SCheck1", "52 --set Nichts=1", "52 --set SCheck1=7",
+         {"", "8051", "52 --bogus", "52 --set SCheck1", "52 --set Nichts=1", "52 --set SCheck1=7",
           "52 --answer vielleicht"}},
     };
     for (const auto& program : programs) {

@@ -19,7 +19,8 @@ bool simulatorAvailable() {
 }
 
 std::map<std::string, int> runInSimulator(const std::string& hexText, std::int32_t stopAddress,
-                                          const std::vector<std::string>& cells) {
+                                          const std::vector<std::string>& cells,
+                                          const std::string& chip) {
     const ScratchFolder scratch;
     const std::string& folder = scratch.path();
     std::ofstream(folder + "program.ihx", std::ios::binary) << hexText;
@@ -33,8 +34,8 @@ std::map<std::string, int> runInSimulator(const std::string& hexText, std::int32
     }
     commands << "quit\n";
     commands.close();
-    const std::string command = std::string("timeout 20 ") + kSimulator + " -t 8052 -C " + folder +
-                                "commands < /dev/null 2>&1";
+    const std::string command = std::string("timeout 20 ") + kSimulator + " -t " + chip + " -C " +
+                                folder + "commands < /dev/null 2>&1";
     const std::string output = runProcess(command).output;
 
     // Each dump echoes its command, then prints its line.

@@ -5,14 +5,39 @@
 
 namespace korvex::wizards::assistent52 {
 
+const ChipProfile& profile80C52() {
+    static const ChipProfile profile{
+        .windowTitle = "Assistent 80C52 / 80C32",
+        .cpu = "80C32",
+        .tabs = {"System", "Serieller Port", "Timer 0", "Timer 1", "Timer 2", "Interrupts"},
+        .interrupts = kInterruptSources,
+    };
+    return profile;
+}
+
 Assistent52::Assistent52(WizardHost& host, WizardOptions options)
-    : Wizard(host, std::move(options)) {
+    : Assistent52(host, std::move(options), profile80C52()) {}
+
+Assistent52::Assistent52(WizardHost& host, WizardOptions options, const ChipProfile& profile)
+    : Wizard(host, std::move(options)), profile_(profile), s_(profile.interrupts) {
     s_.registerControls(registry_);
     bindOperations();
 }
 
-std::vector<std::string> Assistent52::tabNames() const {
-    return {"System", "Serieller Port", "Timer 0", "Timer 1", "Timer 2", "Interrupts"};
+bool Assistent52::timer1TimesSerialPort() const {
+    return s_.UCombo1.enabled && (s_.UCombo1.listIndex == 0 || s_.UCombo2.listIndex == 0);
+}
+
+void Assistent52::freeTimer1FromSerialPort() {
+    setCheck(s_.UCheck1, 0);
+}
+
+bool Assistent52::timer2InterruptEnabled() const {
+    return s_.ICheck1.size() > kTimer2Interrupt && s_.ICheck1[kTimer2Interrupt].value != 0;
+}
+
+bool Assistent52::interruptUsed(std::size_t source) const {
+    return s_.ICheck1[source].value != 0 || s_.ICheck2[source].value != 0;
 }
 
 float Assistent52::clockMegahertz() const {
@@ -45,7 +70,7 @@ void Assistent52::loadSettings() {
     }
     setListIndex(s_.T0Combo1, 0);
     setListIndex(s_.T1Combo1, 0);
-    setListIndex(s_.T2Combo1, 1);
+    setListIndex(s_.T2Combo1, timer2ListIndex(T2TimerReload));
     s_.T2Check1.visible = true;
     generationGuard_.set(0);
     regenerateProgram();

@@ -2,7 +2,6 @@
 // first steps of the initialisation.
 
 #include "wizards/assistent52/assistent52.h"
-#include "wizards/assistent52/interrupt_sources.h"
 #include "wizards/assistent52/program_lines.h"
 #include "wizards/core/timer_arithmetic.h"
 
@@ -30,9 +29,10 @@ void Assistent52::regenerateProgram() {
     if (generationGuard_.value() > 0) return;
     GeneratorRun run(generationGuard_);
     GenerationContext context;
-    context.fosc = oscillatorHz(clockMegahertz());
+    context.fosc = oscillatorHz(effectiveMegahertz());
+    context.used.resize(profile_.interrupts.size());
     for (std::size_t i = 0; i < context.used.size(); ++i) {
-        context.used[i] = s_.ICheck1[i].value != 0 || s_.ICheck2[i].value != 0;
+        context.used[i] = interruptUsed(i);
         context.anyInterrupt = context.anyInterrupt || context.used[i];
     }
     ProgramParts out;
@@ -46,6 +46,7 @@ void Assistent52::regenerateProgram() {
     writeInterruptEnables(out, context);
     writeMainProgram(out, context);
     writeRoutines(out, context);
+    finishProgram(out, context);
     setPreview(out.header + std::string(kLineEnd) + out.declarations + out.code);
 }
 
@@ -55,7 +56,7 @@ void Assistent52::writeHeader(ProgramParts& out, const GenerationContext&) {
     out.header += nowText();
     out.header += kLineEnd;
     out.header += kLineEnd;
-    out.header += "#cpu = 80C32\t; @" + s_.SText1.text + " MHz";
+    out.header += "#cpu = " + cpuName() + "\t; @" + s_.SText1.text + " MHz";
     if (s_.SCheck2.value != 0) line(out.code, "#use LCALL");
 }
 
@@ -63,12 +64,13 @@ void Assistent52::writeVectors(ProgramParts& out, const GenerationContext& conte
     if (!context.anyInterrupt) return;
     line(out.code);
     line(out.code, "ajmp Initialisierung");
-    for (std::size_t i = 0; i < kInterruptSources.size(); ++i) {
+    const std::string jump = profile_.indentedVectorJumps ? "\tajmp " : "ajmp ";
+    for (std::size_t i = 0; i < profile_.interrupts.size(); ++i) {
         if (!context.used[i]) continue;
-        const InterruptSource& source = kInterruptSources[i];
+        const InterruptSource& source = profile_.interrupts[i];
         line(out.code);
         line(out.code, std::string(source.vectorLabel) + "\t; " + source.vectorComment);
-        line(out.code, std::string("ajmp ") + source.routine);
+        line(out.code, jump + source.routine);
     }
 }
 
@@ -79,13 +81,13 @@ void Assistent52::writeInitialisation(ProgramParts& out, const GenerationContext
 
     // "08" and "8" read as 8 and write nothing; "0A" reads as 0 and does.
     if (valNumber(s_.SText2.text) != 8) {
-        line(code, "mov SP, #" + hex2(std::int64_t{hexFieldValue(s_.SText2.text)} - 1) +
-                       "h\t; Stackbeginn");
+        line(code, load("SP", hex2(std::int64_t{hexFieldValue(s_.SText2.text)} - 1) + "h") +
+                       "\t; Stackbeginn");
     }
 
     if (s_.SCheck1.value != 0) {
         line(code, "clr a\t; Variablenbereich löschen");
-        line8(code, "mov r0, #" + s_.SText3.text + "h");
+        line8(code, load("r0", s_.SText3.text + "h"));
         line(code, "loop");
         line(code, "\tmov @r0, a");
         line(code, "\tinc r0");
@@ -97,7 +99,8 @@ void Assistent52::writeInitialisation(ProgramParts& out, const GenerationContext
     // No "h" behind the number: banks 2 and 3 write 10 and 18, read as decimal.
     const int bank = s_.SCombo1.listIndex;
     if (bank != 0) {
-        line(code, "orl PSW, #" + hexText(bank * 8) + "\t; Registerbank " + std::to_string(bank));
+        line(code, operation(profile_.bankMnemonic, "PSW", hexText(bank * 8)) +
+                       "\t; Registerbank " + std::to_string(bank));
     }
 }
 

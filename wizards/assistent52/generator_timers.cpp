@@ -6,9 +6,19 @@
 
 namespace korvex::wizards::assistent52 {
 
+std::string Assistent52::mode0GateLine(int timer) const {
+    switch (profile_.style) {
+        case LiteralStyle::Compact: return timer == 0 ? "orl TMOD, #08" : "orl TMOD, #80";
+        case LiteralStyle::Blank: return timer == 0 ? "orl TMOD, # 8" : "orl TMOD, # 80h";
+        case LiteralStyle::Assignment: break;
+    }
+    return timer == 0 ? "orl TMOD, #08h" : "orl TMOD, #80h";
+}
+
 std::string Assistent52::overflowText(float fosc, int timer, int mode,
                                       const std::string& reloadText) const {
-    const OverflowRate rate = overflowRate(fosc, timer01Divisor(mode, hexFieldValue(reloadText)));
+    const OverflowRate rate = overflowRate(fosc, timer01Divisor(mode, hexFieldValue(reloadText)),
+                                           timerCycleDivider(timer));
     return text8("Die Überlauffrequenz des Timer ") + std::to_string(timer) + text8(" beträgt ") +
            str(rate.frequency) + " Hz, die Periodendauer " + str(rate.periodMs) + " ms.";
 }
@@ -27,8 +37,8 @@ void Assistent52::writeTimer01(std::string& code, const TimerControls& timer, fl
     const int mode = timer.mode.listIndex;
     const bool gate = timer.gate.value != 0;
     // Timer 0 keeps TMOD's low nibble, Timer 1 the high one.
-    const auto tmod = [n](const std::string& digits) {
-        return n == 0 ? "orl TMOD, #0" + digits + "h" : "orl TMOD, #" + digits + "0h";
+    const auto tmod = [this, n](const std::string& digits) {
+        return operation("orl", "TMOD", n == 0 ? "0" + digits + "h" : digits + "0h");
     };
     std::string result;
     int g = 0;
@@ -64,10 +74,8 @@ void Assistent52::writeTimer01(std::string& code, const TimerControls& timer, fl
             case 0:
                 line(code, "; Timer " + number + " im Modus 0 = 13-Bit Timer/Zähler.");
                 commentLines(code, result);
-                // Timer 1's gate line has no "h": it reads as decimal 80.
-                if (gate)
-                    line8(code, (n == 0 ? "orl TMOD, #08\t; " : "orl TMOD, #80\t; ") +
-                                    timer.gate.caption);
+                // The base's gate line of Timer 1 has no "h": it reads as decimal 80.
+                if (gate) line8(code, mode0GateLine(n) + "\t; " + timer.gate.caption);
                 break;
             case 1:
                 g = gate ? 9 : 1;
@@ -96,11 +104,11 @@ void Assistent52::writeTimer01(std::string& code, const TimerControls& timer, fl
         if (g > 8) line8(code, "; " + timer.gate.caption);
     }
     if (hexFieldValue(timer.low.text) != 0) {
-        line8(code, "mov TL" + number + ", #" + timer.low.text + "h");
+        line8(code, load("TL" + number, timer.low.text + "h"));
     }
     if (hexFieldValue(timer.high.text) != 0) {
-        line8(code, "mov TH" + number + ", #" + timer.high.text + "h" +
-                        (mode == 2 ? "\t; Reloadwert" : ""));
+        line8(code,
+              load("TH" + number, timer.high.text + "h") + (mode == 2 ? "\t; Reloadwert" : ""));
     }
     if (timer.run.value == 1) line(code, "setb TR" + number + "\t; Timer " + number + " läuft.");
     if (n == 0 && s_.T0Check3.value != 0 && s_.T0Check3.visible && !s_.T1Check2.enabled) {
@@ -109,35 +117,41 @@ void Assistent52::writeTimer01(std::string& code, const TimerControls& timer, fl
     timer.result.text = result;
 }
 
+std::string Assistent52::timer2Hint() const {
+    if (s_.T2Check1.value != 0 && s_.T2Check1.visible) {
+        return text8(
+                   "Sie verwenden den Eingang T2EX als zusätzlichen externen Interrupt. Eine "
+                   "negative Flanke an T2EX setzt das Bit EXF2. \r\n") +
+               text8(timer2InterruptEnabled()
+                         ? "Dieses löst den Timer 2 Interrupt aus."
+                         : "Dieses kann den Timer 2 Interrupt auslösen. Geben Sie dazu "
+                           "den Timer 2 Interrupt frei.");
+    }
+    std::string hint = text8(
+        "Sie können den Eingang T2EX als zusätzlichen externen Interrupt verwenden. "
+        "Dieser verwendet den Interruptvektor des Timer 2.\r\n");
+    if (!timer2InterruptEnabled()) hint += " Geben Sie dazu den Timer 2 Interrupt frei.";
+    return hint;
+}
+
+bool Assistent52::describeTimer2(int, float, std::int64_t, int&, int&, std::string&) {
+    return false;
+}
+
 void Assistent52::writeTimer2(ProgramParts& out, const GenerationContext& context) {
     std::string& code = out.code;
     const bool used = s_.T2Check0.value != 0;
     if (used) line(code, "; Timer 2:");
 
     const bool exen2 = s_.T2Check1.value != 0;
-    const bool timer2Interrupt = s_.ICheck1[5].value != 0;
-    std::string hint;
-    if (exen2 && s_.T2Check1.visible) {
-        hint = text8(
-                   "Sie verwenden den Eingang T2EX als zusätzlichen externen Interrupt. Eine "
-                   "negative Flanke an T2EX setzt das Bit EXF2. \r\n") +
-               text8(timer2Interrupt ? "Dieses löst den Timer 2 Interrupt aus."
-                                     : "Dieses kann den Timer 2 Interrupt auslösen. Geben Sie dazu "
-                                       "den Timer 2 Interrupt frei.");
-    } else {
-        hint = text8(
-            "Sie können den Eingang T2EX als zusätzlichen externen Interrupt verwenden. "
-            "Dieser verwendet den Interruptvektor des Timer 2.\r\n");
-        if (!timer2Interrupt) hint += " Geben Sie dazu den Timer 2 Interrupt frei.";
-    }
-
-    const int item = s_.T2Combo1.listIndex;
+    const std::string hint = timer2Hint();
+    const int function = selectedTimer2Function();
     // The fields take two digits in the dialog, but a value set otherwise may be
     // longer: the reload is reckoned as a number, never wrapped.
     const std::int64_t reload = std::int64_t{hexFieldValue(s_.T2Text4.text)} +
                                 256 * std::int64_t{hexFieldValue(s_.T2Text5.text)};
     const auto rateText = [&](double divisor) {
-        const OverflowRate rate = overflowRate(context.fosc, divisor);
+        const OverflowRate rate = overflowRate(context.fosc, divisor, timerCycleDivider(2));
         return text8(" Die Überlauffrequenz beträgt ") + str(rate.frequency) +
                " Hz, die Periodendauer " + str(rate.periodMs) + " ms.";
     };
@@ -150,57 +164,60 @@ void Assistent52::writeTimer2(ProgramParts& out, const GenerationContext& contex
     const std::string triggerText = text8(" oder bei negativer Flanke am Eingang T2EX.");
     const std::string clockInput = text8(" Das Taktsignal stammt vom Eingang T2.");
     int t2con = 0;
+    int t2mod = 0;
     std::string description;
-    switch (item) {
-        case 0:
+    switch (function) {
+        case T2Timer16:
             t2con = 1;
             description = upCounter + "." + rateText(65536);
             break;
-        case 1:
+        case T2TimerReload:
             t2con = 0;
             description = upCounter + reloadText + "." + rateText(65536 - reload);
             break;
-        case 2:
+        case T2TimerReloadTrigger:
             t2con = 8;
             description = upCounter + reloadText + triggerText + rateText(65536 - reload);
             break;
-        case 3:
+        case T2TimerCapture:
             t2con = 9;
             description = upCounter + captureText + rateText(65536);
             break;
-        case 4:
+        case T2Counter16:
             t2con = 3;
             description = text8("Zähler 2 ist ein 16-Bit Ereigniszähler.") + clockInput;
             break;
-        case 5:
+        case T2CounterReload:
             t2con = 2;
             description = text8("Zähler 2 ist ein 16-Bit Ereigniszähler.") + clockInput +
                           text8(
                               " Bei Überlauf wird der Zähler mit dem Inhalt der Reload-Register "
                               "nachgeladen.");
             break;
-        case 6:
+        case T2CounterReloadTrigger:
             t2con = 10;
             description = text8("Zähler 2 ist ein 16-Bit Aufwärtszähler") + reloadText +
                           triggerText + clockInput;
             break;
-        case 7:
+        case T2CounterCapture:
             t2con = 11;
             description =
                 text8("Zähler 2 ist ein 16-Bit Aufwärtszähler") + captureText + clockInput;
             break;
-        case 8:
-        case 9: {
+        case T2BaudOscillator:
+        case T2BaudExternal:
+        case T2BaudOscillatorOutput: {
             const int direction = s_.T2Option1.selected;
             const std::string& caption =
                 s_.T2Option1.buttons[static_cast<std::size_t>(direction)].caption;
             t2con = (direction == 0   ? 16
                      : direction == 1 ? 32
                                       : 48) +
-                    (exen2 ? 8 : 0) + (item == 9 ? 2 : 0);
+                    (exen2 ? 8 : 0) + (function == T2BaudExternal ? 2 : 0);
             description =
                 text8("Timer 2 wird als Baudratengenerator für ") + caption + " verwendet.";
-            if (item == 8) {
+            if (function == T2BaudOscillatorOutput) t2mod = 2;  // T2OE: the rate out on T2
+            if (function != T2BaudExternal) {
                 const float baud = toSingle(static_cast<double>(context.fosc) /
                                             static_cast<double>((65536 - reload) * 32));
                 description += text8(" Die Baudrate beträgt ") + str(baud) + " Baud." + hint;
@@ -212,31 +229,36 @@ void Assistent52::writeTimer2(ProgramParts& out, const GenerationContext& contex
             }
             break;
         }
-        default: break;
+        default: describeTimer2(function, context.fosc, reload, t2con, t2mod, description); break;
     }
 
     if (used) {
         s_.T2Text1.text = description;
         line8(code, "; " + description.substr(0, description.find(kLineEnd)));
         if (t2con != 0) {
-            line8(code, "mov T2CON, # " + hexText(t2con) + "h" +
+            line8(code, timer2Load("T2CON", hexText(t2con) + "h") +
                             (exen2 ? "\t; " + s_.T2Check1.caption : std::string()));
         }
+        if (t2mod != 0) line8(code, timer2Load("T2MOD", hexText(t2mod) + "h"));
         if (hexFieldValue(s_.T2Text4.text) != 0 && s_.T2Text4.enabled) {
-            line8(code, "mov RCAP2L, # " + s_.T2Text4.text + "h");
+            line8(code, timer2Load("RCAP2L", s_.T2Text4.text + "h"));
         }
         if (hexFieldValue(s_.T2Text5.text) != 0 && s_.T2Text5.enabled) {
-            line8(code, "mov RCAP2H, # " + s_.T2Text5.text + "h");
+            line8(code, timer2Load("RCAP2H", s_.T2Text5.text + "h"));
         }
-        if (hexFieldValue(s_.T2Text2.text) != 0) line8(code, "mov TL2, # " + s_.T2Text2.text + "h");
-        if (hexFieldValue(s_.T2Text3.text) != 0) line8(code, "mov TH2, # " + s_.T2Text3.text + "h");
+        if (hexFieldValue(s_.T2Text2.text) != 0) {
+            line8(code, timer2Load("TL2", s_.T2Text2.text + "h"));
+        }
+        if (hexFieldValue(s_.T2Text3.text) != 0) {
+            line8(code, timer2Load("TH2", s_.T2Text3.text + "h"));
+        }
         line(code, "setb TR2\t; Timer 2 läuft.");
         return;
     }
     if (exen2 && s_.T2Check1.visible) {
         const bool t2conWritten = code.find("T2CON") != std::string::npos;
-        line8(code,
-              std::string(t2conWritten ? "orl" : "mov") + " T2CON, # 8\t; " + s_.T2Check1.caption);
+        line8(code, (t2conWritten ? timer2OrLine("T2CON", "8") : timer2Load("T2CON", "8")) +
+                        "\t; " + s_.T2Check1.caption);
     }
     const bool baudGenerator =
         s_.UCheck1.value != 0 && (s_.UCombo1.listIndex == 1 || s_.UCombo2.listIndex == 1);

@@ -102,7 +102,7 @@ void Assistent52::UOption1Click(int index) {
     }
     if (needsGenerator && s_.T2Check0.value != 0 && onTimer(1)) {
         setCheck(s_.T2Check0, 0);
-        setListIndex(s_.T2Combo1, 8);
+        setListIndex(s_.T2Combo1, timer2ListIndex(T2BaudOscillator));
         const int direction = 2 * s_.UCombo1.listIndex + s_.UCombo2.listIndex - 1;
         if (direction >= 0 && direction <= 2) selectOption(s_.T2Option1, direction);
     }
@@ -165,21 +165,21 @@ void Assistent52::UComboClick() {
     if (different) {
         s_.UCheck4.enabled = true;
         generationGuard_.take(guard_code::kConflictAnswer);
-        setListIndex(s_.T2Combo1, 8);
+        setListIndex(s_.T2Combo1, timer2ListIndex(T2BaudOscillator));
         if (generationGuard_.value() == guard_code::kConflictAnswer) {
             selectOption(s_.T2Option1, receive == 1 ? 1 : 0);
         }
     } else if (receive == 0) {
         s_.UCheck4.enabled = true;
-        if (s_.T2Combo1.listIndex == 8) {
-            setListIndex(s_.T2Combo1, 1);
+        if (selectedTimer2Function() == T2BaudOscillator) {
+            setListIndex(s_.T2Combo1, timer2ListIndex(T2TimerReload));
             setText(s_.T2Text4, "00");
             setText(s_.T2Text5, "00");
         }
         s_.T2Check1.visible = true;
     } else {
         s_.UCheck4.enabled = false;
-        setListIndex(s_.T2Combo1, 8);
+        setListIndex(s_.T2Combo1, timer2ListIndex(T2BaudOscillator));
         selectOption(s_.T2Option1, 2);
     }
     s_.T2Text4.enabled = s_.T2Text5.enabled = s_.T2Frame1.enabled = false;

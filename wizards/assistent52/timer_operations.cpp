@@ -106,7 +106,7 @@ void Assistent52::T1Check0Click() {
         return;
     }
     const bool on = s_.T1Check0.value != 0;
-    if (on && s_.UCombo1.enabled && (s_.UCombo1.listIndex == 0 || s_.UCombo2.listIndex == 0)) {
+    if (on && timer1TimesSerialPort()) {
         if (!host_.question("Konflikt",
                             text8("Timer 1 wird bereits als Baudratengenerator "
                                   "verwendet. Möchten Sie diese Zuordnung aufheben?"))) {
@@ -115,7 +115,7 @@ void Assistent52::T1Check0Click() {
             return;
         }
         GuardHold hold(generationGuard_, guard_code::kConflictAnswer);
-        setCheck(s_.UCheck1, 0);
+        freeTimer1FromSerialPort();
     }
     if (s_.T0Combo1.listIndex == 3 && on) {
         host_.note(text8(
@@ -136,6 +136,7 @@ void Assistent52::T1Check0Click() {
         GuardHold hold(generationGuard_, guard_code::kNestedSerialCheck);
         UCheck1Click();
     }
+    if (!on) timer1Released();
     regenerateProgram();
 }
 
@@ -181,16 +182,22 @@ void Assistent52::T2Combo1Click() {
     s_.T2Check1.visible = false;
     s_.T2Frame1.visible = false;
     s_.T2Text4.enabled = s_.T2Text5.enabled = true;
-    switch (s_.T2Combo1.listIndex) {
-        case 1:
-        case 2: s_.T2Command1.enabled = true; break;
-        case 3:
-        case 7: s_.T2Text4.enabled = s_.T2Text5.enabled = false; break;
-        case 8:
+    switch (selectedTimer2Function()) {
+        case T2TimerReload:
+        case T2TimerReloadTrigger:
+        case T2UpDownTimer: s_.T2Command1.enabled = true; break;
+        case T2TimerCapture:
+        case T2CounterCapture: s_.T2Text4.enabled = s_.T2Text5.enabled = false; break;
+        case T2BaudOscillator:
+        case T2BaudOscillatorOutput:
             s_.T2Command1.enabled = true;
             s_.T2Check1.visible = s_.T2Frame1.visible = true;
             break;
-        case 9: s_.T2Check1.visible = s_.T2Frame1.visible = true; break;
+        case T2BaudExternal: s_.T2Check1.visible = s_.T2Frame1.visible = true; break;
+        case T2ClockOutput:
+            s_.T2Command1.enabled = true;
+            s_.T2Check1.visible = true;
+            break;
         default: break;
     }
     regenerateProgram();
@@ -203,7 +210,8 @@ void Assistent52::TimerCommandClick(const TimerControls& timer) {
         if (frequency <= 0) return;
         const float megahertz = clockMegahertz();
         if (megahertz <= 0) return;
-        setText(timer.high, hex2(timer01ReloadForFrequency(megahertz, frequency)));
+        setText(timer.high, hex2(timer01ReloadForFrequency(effectiveMegahertz(), frequency,
+                                                           timerCycleDivider(timer.number))));
     });
 }
 
@@ -214,8 +222,13 @@ void Assistent52::T2Command1Click() {
         if (frequency <= 0) return;
         const float megahertz = clockMegahertz();
         if (megahertz <= 0) return;
-        const std::int32_t reload = timer2ReloadForFrequency(oscillatorHz(megahertz), frequency,
-                                                             s_.T2Combo1.listIndex == 8);
+        const int function = selectedTimer2Function();
+        const std::int32_t reload = timer2ReloadForFrequency(
+            oscillatorHz(effectiveMegahertz()), frequency,
+            function == T2BaudOscillator || function == T2BaudOscillatorOutput
+                ? Timer2ReloadDivider::Baud
+            : function == T2ClockOutput ? Timer2ReloadDivider::ClockOutput
+                                        : Timer2ReloadDivider::Timer);
         GuardHold hold(generationGuard_, guard_code::kTimer2Frequency);
         setText(s_.T2Text5, hex2(static_cast<std::int64_t>(std::floor(reload / 256.0))));
         setText(s_.T2Text4, hex2(reload % 256));

@@ -1,96 +1,19 @@
 #include "wizards/assistent52/wizard_settings.h"
 
 #include "base/cp1252.h"
+#include "wizards/core/control_builders.h"
 
 namespace korvex::wizards::assistent52 {
 namespace {
 
-template <typename C>
-C named(const char* name, int index = -1) {
-    C control;
-    control.name = name;
-    control.index = index;
-    return control;
-}
-
-TextBox textBox(const char* name, const char* text, const char* label = "") {
-    auto box = named<TextBox>(name);
-    box.text = text8(text);
-    box.label = text8(label);
-    return box;
-}
-
-CheckBox checkBox(const char* name, const char* caption, int index = -1) {
-    auto box = named<CheckBox>(name, index);
-    box.caption = text8(caption);
-    return box;
-}
-
-OptionGroup optionGroup(const char* name, std::initializer_list<const char*> captions,
-                        int selected) {
-    auto group = named<OptionGroup>(name);
-    for (const char* caption : captions) group.buttons.push_back({text8(caption), true, true});
-    group.selected = static_cast<std::int16_t>(selected);
-    return group;
-}
-
-// The lists are empty of a selection until the load sets them.
-ComboBox comboBox(const char* name, std::initializer_list<const char*> items,
-                  bool editable = false) {
-    auto list = named<ComboBox>(name);
-    for (const char* item : items) list.items.push_back(text8(item));
-    list.editable = editable;
-    return list;
-}
-
-Label label(const char* name, const char* caption) {
-    auto l = named<Label>(name);
-    l.caption = text8(caption);
-    return l;
-}
-
-CommandButton command(const char* name, const char* caption, bool enabled = true) {
-    auto button = named<CommandButton>(name);
-    button.caption = text8(caption);
-    button.enabled = enabled;
-    return button;
-}
-
-Frame frame(const char* name, bool enabled = true) {
-    auto f = named<Frame>(name);
-    f.enabled = enabled;
-    return f;
-}
-
-template <typename C>
-C disabled(C control) {
-    control.enabled = false;
-    return control;
-}
-
-TextBox output(TextBox box) {
-    box.locked = true;
-    return box;
-}
-
-template <typename C>
-C hidden(C control) {
-    control.visible = false;
-    return control;
-}
-
-template <typename C>
-C withTip(C control, const char* tip) {
-    control.toolTip = text8(tip);
-    return control;
-}
+using namespace build;
 
 constexpr std::initializer_list<const char*> kBaudRates = {
     "110", "300", "600", "1200", "2400", "4800", "9600", "14400", "19200", "28800"};
 
 }  // namespace
 
-WizardSettings::WizardSettings()
+WizardSettings::WizardSettings(std::span<const InterruptSource> interrupts)
     : SText1(textBox("SText1", "12")),
       SText2(textBox("SText2", "08")),
       SCheck1(checkBox("SCheck1", "")),
@@ -186,14 +109,6 @@ WizardSettings::WizardSettings()
       T2Command1(command("T2Command1", "Freqenz vorgeben", false)),
 
       ICheck0(checkBox("ICheck0", "Globale Interruptfreigabe")),
-      ICheck1{checkBox("ICheck1", "Externer Interrupt 0, Auslöser:", 0),
-              checkBox("ICheck1", "Timer 0 Interrupt", 1),
-              checkBox("ICheck1", "Externer Interrupt 1, Auslöser:", 2),
-              checkBox("ICheck1", "Timer 1 Interrupt", 3),
-              checkBox("ICheck1", "Serieller Interrupt", 4),
-              checkBox("ICheck1", "Timer 2 Interrupt", 5)},
-      ICheck2{checkBox("ICheck2", "", 0), checkBox("ICheck2", "", 1), checkBox("ICheck2", "", 2),
-              checkBox("ICheck2", "", 3), checkBox("ICheck2", "", 4), checkBox("ICheck2", "", 5)},
       IOption1(optionGroup("IOption1", {"Low-Pegel an P3.2", "negative Flanke an P3.2"}, 0)),
       IOption2(optionGroup("IOption2", {"Low-Pegel an P3.3", "negative Flanke an P3.3"}, 0)),
       ILabel1(label("ILabel1", "Hohe Priorität")),
@@ -201,6 +116,10 @@ WizardSettings::WizardSettings()
       Command1(command("Command1", "Abbrechen")),
       Command2(command("Command2", "Übernehmen")) {
     UCombo3.width = kBaudListWideWidth;
+    for (std::size_t i = 0; i < interrupts.size(); ++i) {
+        ICheck1.push_back(checkBox("ICheck1", interrupts[i].caption, static_cast<int>(i)));
+        ICheck2.push_back(checkBox("ICheck2", "", static_cast<int>(i)));
+    }
 }
 
 void WizardSettings::registerControls(ControlRegistry& r) {

@@ -36,6 +36,8 @@ ControlSnapshot::Shown shownState(const ControlRef& ref) {
                 shown.value = std::to_string(control->listIndex) + '\n' + control->text;
                 shown.items = control->items;
                 shown.items.push_back(std::to_string(control->width));
+            } else if constexpr (std::is_same_v<Type, Slider>) {
+                shown.value = std::to_string(control->value);
             } else {
                 shown.caption += '\n' + control->caption;
             }

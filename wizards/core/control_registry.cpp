@@ -6,6 +6,10 @@ std::string ControlRegistry::keyOf(const std::string& name, int index) {
     return index < 0 ? name : name + "(" + std::to_string(index) + ")";
 }
 
+void ControlRegistry::remove(const std::string& name) {
+    std::erase_if(entries_, [&](const auto& entry) { return baseOf(entry.second).name == name; });
+}
+
 std::optional<ControlRef> ControlRegistry::find(const std::string& name, int index) const {
     const std::string key = keyOf(name, index);
     for (const auto& [k, ref] : entries_) {

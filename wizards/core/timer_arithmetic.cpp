@@ -50,15 +50,14 @@ BaudSetting timer2Baud(float fosc, double baud) {
     return setting;
 }
 
-std::int32_t timer01ReloadForFrequency(float clockMegahertz, double frequency) {
-    double q = (static_cast<double>(clockMegahertz) * 1e6 / 12.0) / frequency;
+std::int32_t timer01ReloadForFrequency(float clockMegahertz, double frequency, int cycleDivider) {
+    double q = (static_cast<double>(clockMegahertz) * 1e6 / cycleDivider) / frequency;
     if (q > 256) q = 256;
     return roundToInt32(256 - q);
 }
 
-std::int32_t timer2ReloadForFrequency(float fosc, double frequency, bool baudMode) {
-    const double q = baudMode ? static_cast<double>(fosc) / 32.0 / frequency
-                              : static_cast<double>(fosc) / 12.0 / frequency;
+std::int32_t timer2ReloadForFrequency(float fosc, double frequency, Timer2ReloadDivider divider) {
+    const double q = static_cast<double>(fosc) / static_cast<int>(divider) / frequency;
     std::int32_t reload = roundToInt32(65536.0 - q);
     if (reload > 65536) reload = 65536;
     return reload;

@@ -117,6 +117,14 @@ void Wizard::setByUser(const std::string& name, int index, const std::string& va
                                   false);
         }
         selectOption(**group, option);
+    } else if (auto* slider = std::get_if<Slider*>(&*found)) {
+        const int position = number(static_cast<std::size_t>((*slider)->maximum) + 1);
+        if (position < (*slider)->minimum) {
+            throw ControlUseError(
+                text8("unzulässiger Wert ") + value + text8(" für ") + controlText(name, index),
+                true);
+        }
+        setSlider(**slider, position);
     } else if (auto* list = std::get_if<ComboBox*>(&*found)) {
         if ((*list)->editable) {
             setListText(**list, value);
@@ -176,6 +184,12 @@ void Wizard::setListIndex(ComboBox& list, int index) {
         list.text = list.items[static_cast<std::size_t>(index)];
     }
     fireChange(list);
+}
+
+void Wizard::setSlider(Slider& slider, int value) {
+    if (slider.value == value) return;
+    slider.value = static_cast<std::int16_t>(value);
+    fireChange(slider);
 }
 
 void Wizard::setText(TextBox& box, const std::string& text) {

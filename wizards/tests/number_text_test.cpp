@@ -113,8 +113,8 @@ TEST(TimerArithmetic, ReloadsClampAndTheActualRates) {
     EXPECT_EQ(failureOf([] { timer2Baud(12e6f, 1e9); }), 11);
     EXPECT_EQ(timer01ReloadForFrequency(12.0f, 10000), 0x9C);
     EXPECT_EQ(timer01ReloadForFrequency(12.0f, 1), 0);
-    EXPECT_EQ(timer2ReloadForFrequency(12e6f, 10000, false), 65436);
-    EXPECT_EQ(timer2ReloadForFrequency(12e6f, 9600, true), 65497);
+    EXPECT_EQ(timer2ReloadForFrequency(12e6f, 10000, Timer2ReloadDivider::Timer), 65436);
+    EXPECT_EQ(timer2ReloadForFrequency(12e6f, 9600, Timer2ReloadDivider::Baud), 65497);
 }
 
 }  // namespace

@@ -13,8 +13,9 @@ bool simulatorAvailable();
 
 // Reads the cells asked for once the program reaches `stopAddress`. Keys:
 // "sfr:89", "iram:30" (hexadecimal, upper case). Missing values are absent
-// from the map.
+// from the map. `chip` is s51's type ("8052", "C517", "DS320", ...).
 std::map<std::string, int> runInSimulator(const std::string& hexText, std::int32_t stopAddress,
-                                          const std::vector<std::string>& cells);
+                                          const std::vector<std::string>& cells,
+                                          const std::string& chip = "8052");
 
 }  // namespace korvex::testing

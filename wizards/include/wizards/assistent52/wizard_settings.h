@@ -5,14 +5,18 @@
 // dialog before it is loaded; the load-time settings are the wizard's.
 
 #include <array>
+#include <span>
+#include <vector>
 
+#include "wizards/assistent52/interrupt_sources.h"
 #include "wizards/core/control_registry.h"
 #include "wizards/core/controls.h"
 
 namespace korvex::wizards::assistent52 {
 
 struct WizardSettings {
-    WizardSettings();
+    // One enable and one priority box per interrupt source of the chip.
+    explicit WizardSettings(std::span<const InterruptSource> interrupts = kInterruptSources);
     // The record's controls, by name, for the events and the command line.
     void registerControls(ControlRegistry& registry);
 
@@ -84,12 +88,12 @@ struct WizardSettings {
     CommandButton T2Command1;
 
     // Tab "Interrupts"
-    CheckBox ICheck0;                 // EA
-    std::array<CheckBox, 6> ICheck1;  // enables
-    std::array<CheckBox, 6> ICheck2;  // high priorities
-    OptionGroup IOption1;             // trigger of external interrupt 0
-    OptionGroup IOption2;             // trigger of external interrupt 1
-    Label ILabel1;                    // the column heading of the priorities
+    CheckBox ICheck0;               // EA
+    std::vector<CheckBox> ICheck1;  // enables, one per source
+    std::vector<CheckBox> ICheck2;  // high priorities
+    OptionGroup IOption1;           // trigger of external interrupt 0
+    OptionGroup IOption2;           // trigger of external interrupt 1
+    Label ILabel1;                  // the column heading of the priorities
 
     // The buttons below the tabs.
     CommandButton Command1;  // "Abbrechen"

@@ -13,8 +13,8 @@
 
 namespace korvex::wizards {
 
-using ControlRef =
-    std::variant<TextBox*, CheckBox*, OptionGroup*, ComboBox*, Label*, CommandButton*, Frame*>;
+using ControlRef = std::variant<TextBox*, CheckBox*, OptionGroup*, ComboBox*, Slider*, Label*,
+                                CommandButton*, Frame*>;
 
 class ControlRegistry {
   public:
@@ -26,6 +26,10 @@ class ControlRegistry {
     void addArray(Array& controls) {
         for (auto& c : controls) add(c);
     }
+
+    // Takes a control, or all members of an array, out of reach: a chip that
+    // lacks a unit of the base record drops its controls.
+    void remove(const std::string& name);
 
     std::optional<ControlRef> find(const std::string& name, int index = -1) const;
     // Whether a control of this name is registered, alone or as an array.

@@ -50,6 +50,13 @@ struct ComboBox : Control {
     int width = 0;  // in twips, where the interlocks change it
 };
 
+// A slider: a whole number from `minimum` to `maximum`.
+struct Slider : Control {
+    std::int16_t value = 0;
+    std::int16_t minimum = 0;
+    std::int16_t maximum = 0;
+};
+
 struct Label : Control {
     std::string caption;
 };

@@ -37,9 +37,14 @@ BaudSetting timer1Baud(float fosc, double baud, bool doubled);
 BaudSetting timer2Baud(float fosc, double baud);
 
 // "Frequenz vorgeben" of Timers 0 and 1: the 8-bit reload, q clamped to 256.
-std::int32_t timer01ReloadForFrequency(float clockMegahertz, double frequency);
-// "Frequenz vorgeben" of Timer 2: the 16-bit reload; `baudMode` divides by 32
-// instead of 12. R above 65536 is clamped to 65536.
-std::int32_t timer2ReloadForFrequency(float fosc, double frequency, bool baudMode);
+std::int32_t timer01ReloadForFrequency(float clockMegahertz, double frequency,
+                                       int cycleDivider = kClassicCycleDivider);
+// What Timer 2's overflow is divided by: 12 as a timer, 32 as baud-rate
+// generator, and 4 where the AT89 chips put its clock out on T2.
+enum class Timer2ReloadDivider { Timer = 12, Baud = 32, ClockOutput = 4, FastTimer = 4 };
+
+// "Frequenz vorgeben" of Timer 2: the 16-bit reload. R above 65536 is
+// clamped to 65536.
+std::int32_t timer2ReloadForFrequency(float fosc, double frequency, Timer2ReloadDivider divider);
 
 }  // namespace korvex::wizards

@@ -28,6 +28,9 @@ struct WizardOptions {
     std::uint32_t commentColour = 0x008000;  // as the settings store it
     // Date and time for the header, in the system's form; the present moment when empty.
     std::function<std::string()> now;
+    // The program's folder, ending in "/": where a wizard finds the files it
+    // reads (the I²C routine of the 80C552).
+    std::string programFolder;
 };
 
 // The present moment as a German system writes it: "23.11.2026 14:05:33".
@@ -75,7 +78,8 @@ class Wizard {
     const std::vector<ColouredRange>& previewColouring() const { return colouring_; }
 
     // What the user does, by control name. Check boxes take 0 or 1, option
-    // groups and lists the index, editable lists and text fields their text.
+    // groups and lists the index, sliders their position, editable lists and
+    // text fields their text.
     void userSets(const std::string& name, int index, const std::string& value);
     void userClicks(const std::string& name, int index = -1);
     void userLeaves(const std::string& name, int index = -1);
@@ -113,6 +117,7 @@ class Wizard {
     void setListIndex(ComboBox& list, int index);
     void setText(TextBox& box, const std::string& text);
     void setListText(ComboBox& list, const std::string& text);
+    void setSlider(Slider& slider, int value);
     // Runs the change operation of a control as an event would.
     void fireChange(const Control& control);
 
