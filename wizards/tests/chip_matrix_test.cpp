@@ -1,7 +1,8 @@
 // Every chip's programs assemble without a finding with the chip's own
 // shipped driver: each tab's main choices alone and combined. The cases the
-// design itself leaves unassemblable are listed with the reason, and the
-// test holds that they still fail, so that a change there is noticed.
+// wizard itself leaves unassemblable (the user must add to them) are listed
+// with the reason, and the test holds that they still fail, so that a change
+// there is noticed.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +17,7 @@ struct Case {
     std::string chip;
     std::string name;
     std::vector<std::string> settings;
-    // Empty: assembles clean. Else why the design's output can't assemble.
+    // Empty: assembles clean. Else why the generated program can't assemble.
     std::string cannotAssemble = {};
     std::vector<std::string> inputs = {};  // answers to the input boxes
 };

@@ -74,7 +74,7 @@ ByteGridWindow::ByteGridWindow(Kind kind, ByteGrid grid, std::int32_t fixedColou
     view_->verticalHeader()->setDefaultSectionSize(QFontMetrics(gridFont()).height() + 4);
     view_->verticalHeader()->setMinimumWidth(kAddressWidth);
     view_->verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
-    // Two digits must fit whatever the font: the design's widths are the least.
+    // Two digits must fit whatever the font: the classic widths are the least.
     const int digits = QFontMetrics(gridFont()).horizontalAdvance(QStringLiteral("FF")) + 10;
     for (int column = 0; column < 16; ++column)
         view_->setColumnWidth(column, std::max(kByteWidth, digits));

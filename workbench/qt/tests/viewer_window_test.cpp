@@ -1,4 +1,4 @@
-// The viewers: each open is a new window with the design's caption, the
+// The viewers: each open is a new window with its caption, the
 // listing coloured as the report is, the grids showing what the files hold.
 
 #include <gtest/gtest.h>
