@@ -119,7 +119,11 @@ void Assistent52::writeSerialPort(ProgramParts& out, const GenerationContext& co
                 s_.UOption1.buttons[static_cast<std::size_t>(mode)].caption + flags;
         writeBaudLines(code, fosc);
     }
-    if (doubled && s_.UCheck4.enabled && s_.UCheck4.visible) {
+    writeDoublingLine(code);
+}
+
+void Assistent52::writeDoublingLine(std::string& code) {
+    if (s_.UCheck4.value != 0 && s_.UCheck4.enabled && s_.UCheck4.visible) {
         line(code,
              operation("orl", "PCON", "80h") + "\t; Bit SMOD für Baudratenverdoppelung setzen");
     }

@@ -194,6 +194,13 @@ class Assistent52 : public Wizard {
     virtual void writeInterruptEnables(ProgramParts& out, const GenerationContext& context);
     virtual void writeMainProgram(ProgramParts& out, const GenerationContext& context);
     virtual void writeRoutines(ProgramParts& out, const GenerationContext& context);
+    // The first step of a generation, before anything is read from the record.
+    virtual void beforeGeneration() {}
+    // The clearing of internal RAM, and the value its loop ends at.
+    virtual void writeRamClearing(std::string& code);
+    std::string ramClearingEnd() const;
+    // SMOD's line at the end of the serial section.
+    virtual void writeDoublingLine(std::string& code);
     // The last step of a generation, once all sections are written.
     virtual void finishProgram(ProgramParts&, const GenerationContext&) {}
     // One source's routine, behind its empty line.
