@@ -82,8 +82,8 @@ void Assistent52::writeInitialisation(ProgramParts& out, const GenerationContext
 
     // "08" and "8" read as 8 and write nothing; "0A" reads as 0 and does.
     if (valNumber(s_.SText2.text) != 8) {
-        line(code, load("SP", hex2(std::int64_t{hexFieldValue(s_.SText2.text)} - 1) + "h") +
-                       "\t; Stackbeginn");
+        line8(code, load("SP", hex2(std::int64_t{hexFieldValue(s_.SText2.text)} - 1) + "h") +
+                        "\t; " + stackComment());
     }
 
     if (s_.SCheck1.value != 0) writeRamClearing(code);

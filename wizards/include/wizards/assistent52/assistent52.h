@@ -208,6 +208,8 @@ class Assistent52 : public Wizard {
     virtual void writeRoutines(ProgramParts& out, const GenerationContext& context);
     // The first step of a generation, before anything is read from the record.
     virtual void beforeGeneration() {}
+    // The comment of the stack pointer's line.
+    virtual std::string stackComment() const { return "Stackbeginn"; }
     // The clearing of internal RAM, and the value its loop ends at.
     virtual void writeRamClearing(std::string& code);
     std::string ramClearingEnd() const;
