@@ -4,10 +4,12 @@
 #include <utility>
 
 #include "wizards/assistent320/assistent320.h"
+#include "wizards/assistent4052/assistent4052.h"
 #include "wizards/assistent51/assistent51.h"
 #include "wizards/assistent515/assistent515.h"
 #include "wizards/assistent52/assistent52.h"
 #include "wizards/assistent552/assistent552.h"
+#include "wizards/assistent8253/assistent8253.h"
 #include "wizards/assistent89s53/assistent89s53.h"
 
 namespace korvex::wizards {
@@ -28,6 +30,8 @@ const std::vector<std::pair<std::string, Maker>>& wizards() {
         {"51", maker<assistent51::Assistent51>()},
         {"52", maker<assistent52::Assistent52>()},
         {"89S53", maker<assistent89s53::Assistent89S53>()},
+        {"8253", maker<assistent8253::Assistent8253>()},
+        {"4052", maker<assistent4052::Assistent4052>()},
         {"320", maker<assistent320::Assistent320>()},
         {"515", maker<assistent515::Assistent515>()},
         {"552", maker<assistent552::Assistent552>()},

@@ -111,7 +111,7 @@ void Assistent320::freeTimer1FromSerialPort() {
 
 void Assistent320::timer1Released() {
     if (x_.U1Check1.value == 0 || !generationGuard_.idle()) return;
-    GuardHold hold(generationGuard_, guard_code::kNestedSerialCheck);
+    OwnedGuardHold hold(generationGuard_);
     timer1PortUseClick(port1());
     x_.U1Check2.enabled = x_.U1Option1.selected != 1;
 }
@@ -141,7 +141,7 @@ void Assistent320::loadSettings() {
 
 void Assistent320::UOption1Click(int index) {
     // The base's rule must not write the program before the caption is right.
-    GuardHold hold(generationGuard_, guard_code::kLoad);
+    OwnedGuardHold hold(generationGuard_);
     Assistent52::UOption1Click(index);
     // In mode 0 SM2 triples the rate: fosc / 4 instead of fosc / 12.
     s_.UCheck2.enabled = index != 1;
@@ -165,14 +165,14 @@ void Assistent320::bind320Operations() {
         x_.U1Check2.caption = text8(mode == 0 ? kTripledCaption : kSm2Caption);
     };
     onChange("U1Check1", [this, sm2Rule](int) {
-        GuardHold hold(generationGuard_, guard_code::kLoad);
+        OwnedGuardHold hold(generationGuard_);
         timer1PortUseClick(port1());
         sm2Rule();
         hold.release();
         regenerateProgram();
     });
     onChange("U1Option1", [this, sm2Rule](int index) {
-        GuardHold hold(generationGuard_, guard_code::kLoad);
+        OwnedGuardHold hold(generationGuard_);
         timer1PortModeClick(port1(), index);
         sm2Rule();
         hold.release();
@@ -225,7 +225,7 @@ void Assistent320::bind320Operations() {
             if (!another) chosen.value = 1;
             return;
         }
-        GuardHold hold(generationGuard_, guard_code::kLoad);
+        OwnedGuardHold hold(generationGuard_);
         for (auto& box : x_.WCheck1) {
             if (&box != &chosen) setCheck(box, 0);
         }

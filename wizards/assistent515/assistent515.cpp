@@ -155,7 +155,7 @@ void Assistent515::UCheck1Click() {
 }
 
 void Assistent515::UOption1Click(int index) {
-    GuardHold hold(generationGuard_, guard_code::kSerialMode);
+    OwnedGuardHold hold(generationGuard_);
     const bool on = s_.UCheck1.value != 0;
     const bool needsGenerator = on && index % 2 == 1;
     x_.UOption3.enabled = needsGenerator;
@@ -172,7 +172,7 @@ void Assistent515::bind515Operations() {
     onKey("UCombo1", [](int, int, std::int16_t& key) { decimalKeyFilter(key); });
     onLeave("UCombo1", [this](int) { UComboLostFocus(s_.UCombo1); });
     onChange("UOption3", [this](int) {
-        GuardHold hold(generationGuard_, guard_code::kSerialMode);
+        OwnedGuardHold hold(generationGuard_);
         if (x_.UOption3.selected == 0 && s_.UOption1.selected % 2 == 1) askForTimer1();
         s_.UCombo1.enabled = x_.UOption3.enabled && x_.UOption3.selected == 0;
         hold.release();

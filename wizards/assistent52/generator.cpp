@@ -28,6 +28,7 @@ class GeneratorRun {
 void Assistent52::regenerateProgram() {
     if (generationGuard_.value() > 0) return;
     GeneratorRun run(generationGuard_);
+    beforeGeneration();
     GenerationContext context;
     context.fosc = oscillatorHz(effectiveMegahertz());
     context.used.resize(profile_.interrupts.size());
@@ -81,20 +82,11 @@ void Assistent52::writeInitialisation(ProgramParts& out, const GenerationContext
 
     // "08" and "8" read as 8 and write nothing; "0A" reads as 0 and does.
     if (valNumber(s_.SText2.text) != 8) {
-        line(code, load("SP", hex2(std::int64_t{hexFieldValue(s_.SText2.text)} - 1) + "h") +
-                       "\t; Stackbeginn");
+        line8(code, load("SP", hex2(std::int64_t{hexFieldValue(s_.SText2.text)} - 1) + "h") +
+                        "\t; " + stackComment());
     }
 
-    if (s_.SCheck1.value != 0) {
-        line(code, "clr a\t; Variablenbereich löschen");
-        line8(code, load("r0", s_.SText3.text + "h"));
-        line(code, "loop");
-        line(code, "\tmov @r0, a");
-        line(code, "\tinc r0");
-        line(code, "until r0 = #" +
-                       hexText((std::int64_t{hexFieldValue(s_.SText4.text)} + 1) % 256) + "h");
-        line(code);
-    }
+    if (s_.SCheck1.value != 0) writeRamClearing(code);
 
     // No "h" behind the number: banks 2 and 3 write 10 and 18, read as decimal.
     const int bank = s_.SCombo1.listIndex;
@@ -102,6 +94,20 @@ void Assistent52::writeInitialisation(ProgramParts& out, const GenerationContext
         line(code, operation(profile_.bankMnemonic, "PSW", hexText(bank * 8)) +
                        "\t; Registerbank " + std::to_string(bank));
     }
+}
+
+void Assistent52::writeRamClearing(std::string& code) {
+    line(code, "clr a\t; Variablenbereich löschen");
+    line8(code, load("r0", s_.SText3.text + "h"));
+    line(code, "loop");
+    line(code, "\tmov @r0, a");
+    line(code, "\tinc r0");
+    line(code, "until r0 = #" + ramClearingEnd() + "h");
+    line(code);
+}
+
+std::string Assistent52::ramClearingEnd() const {
+    return hexText((std::int64_t{hexFieldValue(s_.SText4.text)} + 1) % 256);
 }
 
 }  // namespace korvex::wizards::assistent52

@@ -90,7 +90,8 @@ void Assistent52::writeSerialPort(ProgramParts& out, const GenerationContext& co
         "Modus 0, synchron, 8 Bit, " + str(serialMode0Baud(fosc)) + " Baud";
     s_.UOption1.buttons[2].caption =
         profile_.mode2Caption +
-        doubleText((doubled ? 2.0 : 1.0) * fosc / 64.0, options_.numberFormat) + " Baud";
+        doubleText((doubled ? 2.0 : 1.0) * fosc / serialMode2Divider(), options_.numberFormat) +
+        " Baud";
     if (s_.UCheck1.value == 0) return;
 
     std::string& code = out.code;
@@ -119,7 +120,11 @@ void Assistent52::writeSerialPort(ProgramParts& out, const GenerationContext& co
                 s_.UOption1.buttons[static_cast<std::size_t>(mode)].caption + flags;
         writeBaudLines(code, fosc);
     }
-    if (doubled && s_.UCheck4.enabled && s_.UCheck4.visible) {
+    writeDoublingLine(code);
+}
+
+void Assistent52::writeDoublingLine(std::string& code) {
+    if (s_.UCheck4.value != 0 && s_.UCheck4.enabled && s_.UCheck4.visible) {
         line(code,
              operation("orl", "PCON", "80h") + "\t; Bit SMOD für Baudratenverdoppelung setzen");
     }

@@ -15,10 +15,18 @@ std::string Assistent52::mode0GateLine(int timer) const {
     return timer == 0 ? "orl TMOD, #08h" : "orl TMOD, #80h";
 }
 
+double Assistent52::timerDivisor(int, int mode, const std::string& reloadText) const {
+    return timer01Divisor(mode, hexFieldValue(reloadText));
+}
+
+std::string Assistent52::mode1Comment(int timer) const {
+    return "Timer " + std::to_string(timer) + " als 16-Bit Timer. ";
+}
+
 std::string Assistent52::overflowText(float fosc, int timer, int mode,
                                       const std::string& reloadText) const {
-    const OverflowRate rate = overflowRate(fosc, timer01Divisor(mode, hexFieldValue(reloadText)),
-                                           timerCycleDivider(timer));
+    const OverflowRate rate =
+        overflowRate(fosc, timerDivisor(timer, mode, reloadText), timerCycleDivider(timer));
     return text8("Die Überlauffrequenz des Timer ") + std::to_string(timer) + text8(" beträgt ") +
            str(rate.frequency) + " Hz, die Periodendauer " + str(rate.periodMs) + " ms.";
 }
@@ -46,7 +54,7 @@ void Assistent52::writeTimer01(std::string& code, const TimerControls& timer, fl
         if (n == 1 && mode == 3) {
             result = text8("Zähler 1 ist gestoppt. Modus 3 ist für Zähler 1 nicht verfügbar.");
         } else {
-            result = text8("Die Überlauffrequenz des Zähler ") + number +
+            result = text8("Die Überlauffrequenz des ") + text8(counterWord(n)) + " " + number +
                      text8(" hängt vom Eingangssignal an T") + number + " " +
                      (mode == 2 ? "und vom Reloadwert" : "") + " ab.";
         }
@@ -72,14 +80,15 @@ void Assistent52::writeTimer01(std::string& code, const TimerControls& timer, fl
         }
         switch (mode) {
             case 0:
-                line(code, "; Timer " + number + " im Modus 0 = 13-Bit Timer/Zähler.");
+                line(code,
+                     "; Timer " + number + " im Modus 0 = " + mode0Width(n) + "-Bit Timer/Zähler.");
                 commentLines(code, result);
                 // The base's gate line of Timer 1 has no "h": it reads as decimal 80.
                 if (gate) line8(code, mode0GateLine(n) + "\t; " + timer.gate.caption);
                 break;
             case 1:
                 g = gate ? 9 : 1;
-                line(code, tmod(std::to_string(g)) + "\t; Timer " + number + " als 16-Bit Timer. ");
+                line(code, tmod(std::to_string(g)) + "\t; " + mode1Comment(n));
                 commentLines(code, result);
                 break;
             case 2:
@@ -110,6 +119,7 @@ void Assistent52::writeTimer01(std::string& code, const TimerControls& timer, fl
         line8(code,
               load("TH" + number, timer.high.text + "h") + (mode == 2 ? "\t; Reloadwert" : ""));
     }
+    writeTimerReloadRegisters(code, timer);
     if (timer.run.value == 1) line(code, "setb TR" + number + "\t; Timer " + number + " läuft.");
     if (n == 0 && s_.T0Check3.value != 0 && s_.T0Check3.visible && !s_.T1Check2.enabled) {
         line(code, "setb TR1\t; High-Byte Timer 0 läuft separat als 8-Bit Timer");

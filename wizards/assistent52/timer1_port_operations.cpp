@@ -15,7 +15,7 @@ void Assistent52::timer1PortUseClick(const Timer1PortControls& port) {
         regenerateProgram();
         return;
     }
-    if (s_.T1Check0.value != 0) {
+    if (timer1Busy()) {
         modes[1].enabled = modes[3].enabled = false;
         if (port.mode.selected != 2) selectOption(port.mode, 0);
         host_.note(
@@ -30,6 +30,7 @@ void Assistent52::timer1PortUseClick(const Timer1PortControls& port) {
 void Assistent52::timer1PortModeClick(const Timer1PortControls& port, int index) {
     GuardHold hold(generationGuard_, guard_code::kSerialMode);
     if (index % 2 == 1 && s_.T1Check0.value != 0) {
+        // (Only a Timer 1 that the user keeps can be given back here.)
         if (host_.question("Konflikt", text8("Timer 1 wird bereits für andere Zwecke verwendet. "
                                              "Möchten Sie diese Zuordnung aufheben?"))) {
             setCheck(s_.T1Check0, 0);

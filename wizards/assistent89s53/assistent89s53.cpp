@@ -85,7 +85,7 @@ void Assistent89S53::bindAtmelOperations() {
     onChange("SOption1", [this](int) {
         // Only the AT89S8252 has the EEPROM.
         const bool eeprom = x_.SOption1.selected == 1;
-        GuardHold hold(generationGuard_, guard_code::kLoad);
+        OwnedGuardHold hold(generationGuard_);
         if (!eeprom) setCheck(x_.SCheck3[0], 0);
         x_.SCheck3[0].enabled = eeprom;
         x_.SCheck3[1].enabled = eeprom && x_.SCheck3[0].value != 0;
@@ -94,7 +94,7 @@ void Assistent89S53::bindAtmelOperations() {
     });
     onChange("SCheck3", [this](int index) {
         if (index == 0) {
-            GuardHold hold(generationGuard_, guard_code::kLoad);
+            OwnedGuardHold hold(generationGuard_);
             // Writing needs the EEPROM switched on for reading too.
             if (x_.SCheck3[0].value == 0) setCheck(x_.SCheck3[1], 0);
             x_.SCheck3[1].enabled = x_.SCheck3[0].value != 0;
@@ -116,7 +116,7 @@ void Assistent89S53::bindAtmelOperations() {
             if (!another) chosen.value = 1;
             return;
         }
-        GuardHold hold(generationGuard_, guard_code::kLoad);
+        OwnedGuardHold hold(generationGuard_);
         for (auto& box : x_.WCheck1) {
             if (&box != &chosen) setCheck(box, 0);
         }
@@ -135,7 +135,7 @@ void Assistent89S53::bindAtmelOperations() {
     onChange("SPICheck2", [this](int) {
         // The SPI interrupt is enabled with the serial one (ES).
         if (x_.SPICheck2.value != 0) {
-            GuardHold hold(generationGuard_, guard_code::kLoad);
+            OwnedGuardHold hold(generationGuard_);
             setCheck(s_.ICheck1[kSerialInterrupt], 1);
         }
         regenerateProgram();

@@ -176,4 +176,25 @@ void Assistent89S53::writeSpiPartOfSerialRoutine(std::string& code) {
     }
 }
 
+void Assistent89S53::writeAssignmentSerialRoutine(ProgramParts& out) {
+    std::string& code = out.code;
+    for (const char* text : {"Serieller Interrupt:", "\tif bit TI then\t; Senden",
+                             "\t\tclr TI: clr Sendebusy: reti", "\tend if"}) {
+        line(code, text);
+    }
+    if (spiInterrupt()) {
+        for (const char* text : {"\tif bit RI then\t; Empfangen", "\t\tclr RI: setb Empfang: reti",
+                                 "\tend if", "\tpush acc: a = SPSR\t; SPI-Statusregister",
+                                 "\tif bit acc.7 then: setb SPI-Ereignis: end if",
+                                 "\ta = SPDR: pop acc\t; SPIF Bit löschen"}) {
+            line(code, text);
+        }
+        line(out.declarations, "#Bit Empfang, Sendebusy, SPI-Ereignis");
+    } else {
+        line(code, "\tclr RI: setb Empfang");
+        line(out.declarations, "#Bit Empfang, Sendebusy");
+    }
+    line(code, "reti");
+}
+
 }  // namespace korvex::wizards::assistent89s53

@@ -40,6 +40,16 @@ BaudSetting timer1Baud(float fosc, double baud, bool doubled) {
     return setting;
 }
 
+BaudSetting timer1Baud16(float fosc, double baud, bool doubled) {
+    const double factor = doubled ? 2.0 : 1.0;
+    BaudSetting setting;
+    setting.reload = roundToInt32(65536.0 - factor * fosc / (32.0 * baud));
+    if (setting.reload < 0) setting.reload = 0;
+    if (setting.reload > 65535) setting.reload = 65535;
+    setting.actual = factor * fosc / ((65536.0 - setting.reload) * 32.0);
+    return setting;
+}
+
 BaudSetting timer2Baud(float fosc, double baud) {
     BaudSetting setting;
     setting.reload = roundToInt32(65536.0 - static_cast<double>(fosc) / (baud * 32.0));

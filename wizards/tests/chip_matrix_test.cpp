@@ -90,7 +90,15 @@ std::vector<Case> cases51() {
 
 // The base's choices that the AT89 chips share: serial generators, Timer 2's
 // functions, SPI and watchdog.
-void addAtmelCases(std::vector<Case>& cases, const std::string& chip, int timer2Functions) {
+// The names of the interrupt boxes differ between the two AT89 wizards.
+struct AtmelBoxes {
+    std::string serial = "ICheck1(4)=1";
+    std::string timer2 = "ICheck1(5)=1";
+    std::string global = "ICheck0=1";
+};
+
+void addAtmelCases(std::vector<Case>& cases, const std::string& chip, int timer2Functions,
+                   const AtmelBoxes& boxes = {}) {
     const std::vector<Case> shared = {
         {chip, "Defaults", {}},
         {chip,
@@ -106,13 +114,13 @@ void addAtmelCases(std::vector<Case>& cases, const std::string& chip, int timer2
         {chip, "SerialMode2", {"UCheck1=1", "UOption1=2", "UCheck2=1", "UCheck3=1", "UCheck4=1"}},
         {chip,
          "SerialWithInterrupt",
-         {"UCheck1=1", "UOption1=1", "UCheck3=1", "ICheck1(4)=1", "ICheck0=1"}},
+         {"UCheck1=1", "UOption1=1", "UCheck3=1", boxes.serial, boxes.global}},
         {chip, "SpiMasterLsbFirst", {"SPICheck1=1", "SPIOption1=1", "SPIList1=3", "SPIOption3=2"}},
         {chip, "SpiSlave", {"SPICheck1=1", "SPIOption2=0", "SPIOption3=1"}},
-        {chip, "SpiInterruptAlone", {"SPICheck1=1", "SPICheck2=1", "ICheck0=1"}},
+        {chip, "SpiInterruptAlone", {"SPICheck1=1", "SPICheck2=1", boxes.global}},
         {chip,
          "SpiInterruptWithSerial",
-         {"UCheck1=1", "UOption1=1", "SPICheck1=1", "SPICheck2=1", "ICheck0=1"}},
+         {"UCheck1=1", "UOption1=1", "SPICheck1=1", "SPICheck2=1", boxes.global}},
     };
     cases.insert(cases.end(), shared.begin(), shared.end());
     for (int function = 0; function < timer2Functions; ++function) {
@@ -120,7 +128,7 @@ void addAtmelCases(std::vector<Case>& cases, const std::string& chip, int timer2
             {chip,
              "Timer2Function" + std::to_string(function),
              {"T2Check0=1", "T2Text4=F0", "T2Text5=FF", "T2Combo1=" + std::to_string(function),
-              "T2Text2=34", "T2Text3=12", "ICheck1(5)=1", "ICheck0=1"}});
+              "T2Text2=34", "T2Text3=12", boxes.timer2, boxes.global}});
     }
     addTimerCases(cases, chip);
 }
@@ -315,16 +323,106 @@ std::vector<Case> cases552() {
     return cases;
 }
 
+std::vector<Case> cases8253() {
+    std::vector<Case> cases;
+    addAtmelCases(cases, "8253", 14, {"ICheck1(7)=1", "ICheck1(9)=1", "ICheck1(0)=1"});
+    const std::vector<Case> own = {
+        {"8253",
+         "SystemAuxrX2Eeprom",
+         {"SText2=30", "SCheck1=1", "SText3=30", "SText4=7F", "ACkIntel=1", "SCkALE=1", "SCkX2=1",
+          "SCheck3(0)=1", "SCheck3(1)=1"}},
+        {"8253",
+         "SerialAddressesFrameErrors",
+         {"UCheck1=1", "UOption1=3", "UCheck4=1", "UCkFrameError=1", "UAdresse(0)=12",
+          "UAdresse(1)=F0", "ICheck1(7)=1", "ICheck1(0)=1"}},
+        {"8253",
+         "SpiEnhancedSlaveOff",
+         {"SPICheck1=1", "SPICkEnhanced=1", "SPICkSOD=1", "ICheck1(8)=1", "ICheck1(0)=1"}},
+        {"8253",
+         "WatchdogHardwareStartedWithInterrupts",
+         {"WCkStart=1", "WCkHardware=1", "WCkIdle=1", "WCkReset=1", "WOption1=5", "ICheck1(3)=1",
+          "ICheck1(0)=1"}},
+        {"8253", "WatchdogSoftwareFedWithoutInterrupts", {"WCkStart=1", "WOption1=0"}},
+        {"8253",
+         "InterruptBoxesAndLevels",
+         {"ICheck1(2)=1", "ICheck1(4)=1", "ICheck1(6)=1", "ICheck1(9)=1", "IPSlider(0)=3",
+          "IPSlider(1)=2", "IPSlider(2)=1", "IPSlider(5)=3", "ICheck1(0)=1"}},
+        {"8253", "TimeBaseNothingChosen", {"BCheckTakt=1"}},
+        {"8253", "TimeBaseTooHigh", {"SText1=62", "BCheckTakt=1", "BList(0)=1"}},
+        {"8253",
+         "TimeBaseEverything",
+         {"SCkX2=1", "BCheckTakt=1", "BList(0)=1", "BList(1)=1", "BList(2)=1", "BList(3)=1",
+          "BList(4)=1", "BList(5)=1", "BList(6)=1", "BList(7)=1", "BList(8)=1", "WCkStart=1",
+          "UCheck1=1", "UOption1=1", "ICheck1(7)=1", "SCheck1=1", "SCombo1=2"}},
+    };
+    cases.insert(cases.end(), own.begin(), own.end());
+    for (int item = 0; item < 9; ++item) {
+        cases.push_back({"8253",
+                         "TimeBaseItem" + std::to_string(item),
+                         {"BCheckTakt=1", "BList(" + std::to_string(item) + ")=1"}});
+    }
+    return cases;
+}
+
+std::vector<Case> cases4052() {
+    std::vector<Case> cases = {
+        {"4052", "Defaults", {}},
+        {"4052",
+         "SystemAll",
+         {"SText1=20", "SText2=30", "SCheck1=1", "SCombo1=1", "SCheck4=1", "SCheck2=1"}},
+        {"4052",
+         "Ports",
+         {"PortText(0)=1", "PortText(1)=2", "PortText(2)=3", "PortText(15)=3", "PortPegel(0)=0",
+          "PortPegel(12)=0"}},
+        {"4052", "SerialMode0", {"UCheck1=1"}},
+        {"4052",
+         "SerialMode1DoubledFrameErrors",
+         {"UCheck1=1", "UOption1=1", "UCheck4=1", "UCheck5=1", "UCombo1=19200", "ICheck1(4)=1",
+          "ICheck0=1"}},
+        {"4052", "SerialMode2", {"UCheck1=1", "UOption1=2", "UCheck2=1", "UCheck3=1"}},
+        {"4052", "SerialMode3Slow", {"UCheck1=1", "UOption1=3", "UCombo1=110"}},
+        {"4052",
+         "SpiEnhancedSlaveOffInterrupt",
+         {"SPICheck1=1", "SPICkEnhanced=1", "SPICkSOD=1", "SPICheck2=1", "ICheck0=1"}},
+        {"4052",
+         "PwmBoth",
+         {"PWM0Chkverwenden=1", "PWM0Slider=10", "PWM0Text=80", "PWM1Chkverwenden=1",
+          "PWM1Slider=250"}},
+        {"4052", "PrescalerBits", {"T0Combo2=0", "T1Check0=1", "T1Combo2=7", "T0Check2=1"}},
+        {"4052",
+         "TimeBaseWithSerial",
+         {"BCheckTakt=1", "BList(0)=1", "BList(5)=1", "BList(8)=1", "UCheck1=1", "UOption1=1",
+          "ICheck1(4)=1"}},
+        {"4052", "TimeBaseNothingChosen", {"BCheckTakt=1"}},
+    };
+    for (int mode = 0; mode < 8; ++mode) {
+        cases.push_back({"4052",
+                         "Comparator" + std::to_string(mode),
+                         {"CaktivCheck=1", "COption=" + std::to_string(mode), "CIdleCheck=1",
+                          "!CCmdPin", "ICheck1(5)=1", "ICheck2(5)=1", "ICheck0=1"}});
+    }
+    for (int item = 0; item < 9; ++item) {
+        cases.push_back({"4052",
+                         "TimeBaseItem" + std::to_string(item),
+                         {"BCheckTakt=1", "BList(" + std::to_string(item) + ")=1"}});
+    }
+    addTimerCases(cases, "4052");
+    return cases;
+}
+
 std::vector<Case> allCases() {
     std::vector<Case> cases;
-    for (auto&& chipCases : {cases51(), cases89S53(), cases320(), cases515(), cases552()}) {
+    for (auto&& chipCases :
+         {cases51(), cases89S53(), cases8253(), cases4052(), cases320(), cases515(), cases552()}) {
         cases.insert(cases.end(), chipCases.begin(), chipCases.end());
     }
     return cases;
 }
 
 // The report's warnings other than the send routines that the wizard offers
-// and nobody calls yet ("Sende:", "Sende 0:", ...).
+// and nobody calls yet ("Sende:", "Sende 0:", ...), and the time base's
+// "T0 Return:", which the AT89LP4052's routine has even where no stage
+// jumps to it.
 std::vector<std::string> unexpectedWarnings(const std::string& report) {
     std::vector<std::string> out;
     if (report.rfind("Warnungen/Fehler:", 0) != 0) return out;
@@ -333,7 +431,8 @@ std::vector<std::string> unexpectedWarnings(const std::string& report) {
         const std::size_t end = report.find("\r\n", from);
         const std::string text = report.substr(from, end - from);
         if (text.empty() || end == std::string::npos) break;
-        if (text != "Unbenutzte Label" && text.rfind("   Sende", 0) != 0)
+        if (text != "Unbenutzte Label" && text.rfind("   Sende", 0) != 0 &&
+            text.rfind("   T0 Return:", 0) != 0)
             out.push_back(toUtf8(text));
         from = end + 2;
     }

@@ -152,6 +152,18 @@ class Assistent52 : public Wizard {
     virtual void timer1Released() {}
     // Machine cycle of a timer (0 to 2) in oscillator periods.
     virtual int timerCycleDivider(int) const { return kClassicCycleDivider; }
+    // Timer 1 is kept from the serial port: by the user, or by a unit of the chip.
+    virtual bool timer1Busy() const { return s_.T1Check0.value != 0; }
+    // The timers' texts and divisors where a chip's timers differ from the
+    // 8051's: the width of mode 0, the comment of mode 1, the counter's word.
+    virtual std::string mode0Width(int) const { return "13"; }
+    virtual std::string mode1Comment(int timer) const;
+    virtual std::string counterWord(int) const { return "Zähler"; }  // UTF-8
+    virtual double timerDivisor(int timer, int mode, const std::string& reloadText) const;
+    // Lines behind a timer's TL and TH loads (the AT89LP's reload registers).
+    virtual void writeTimerReloadRegisters(std::string&, const TimerControls&) {}
+    // Serial mode 2 runs at 2^SMOD × fosc divided by this.
+    virtual double serialMode2Divider() const { return 64; }
     // What Timer 1's baud rate is multiplied by beyond SMOD (a fast timer clock).
     virtual double timer1BaudFactor() const { return 1; }
     virtual bool timer2InterruptEnabled() const;
@@ -194,6 +206,15 @@ class Assistent52 : public Wizard {
     virtual void writeInterruptEnables(ProgramParts& out, const GenerationContext& context);
     virtual void writeMainProgram(ProgramParts& out, const GenerationContext& context);
     virtual void writeRoutines(ProgramParts& out, const GenerationContext& context);
+    // The first step of a generation, before anything is read from the record.
+    virtual void beforeGeneration() {}
+    // The comment of the stack pointer's line.
+    virtual std::string stackComment() const { return "Stackbeginn"; }
+    // The clearing of internal RAM, and the value its loop ends at.
+    virtual void writeRamClearing(std::string& code);
+    std::string ramClearingEnd() const;
+    // SMOD's line at the end of the serial section.
+    virtual void writeDoublingLine(std::string& code);
     // The last step of a generation, once all sections are written.
     virtual void finishProgram(ProgramParts&, const GenerationContext&) {}
     // One source's routine, behind its empty line.

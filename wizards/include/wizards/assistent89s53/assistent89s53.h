@@ -65,6 +65,8 @@ class Assistent89S53 : public assistent52::Assistent52 {
     virtual void writeWatchdog(std::string& code);
     virtual void writeEeprom(std::string& code);
     virtual void writeSpiPartOfSerialRoutine(std::string& code);
+    // The serial routine of the AT89 wizards in the assignment form.
+    void writeAssignmentSerialRoutine(assistent52::ProgramParts& out);
     bool spiInterrupt() const { return x_.SPICheck1.value != 0 && x_.SPICheck2.value != 0; }
     std::string watchdogRegister() const { return x_.SOption1.selected == 0 ? "WCON" : "WMCON"; }
     int watchdogPeriod() const;

@@ -20,6 +20,7 @@ inline constexpr std::int16_t kTimer2Frequency = 8;
 inline constexpr std::int16_t kSerialUse = 9;
 inline constexpr std::int16_t kSerialMode = 10;
 inline constexpr std::int16_t kRevertSerialLists = 11;  // both serial lists put back after a No
+inline constexpr std::int16_t kChipRule = 12;           // a chip's own compound rule
 inline constexpr std::int16_t kConflictAnswer = 98;
 inline constexpr std::int16_t kGenerator = 99;
 }  // namespace guard_code
@@ -59,6 +60,31 @@ class GuardHold {
   private:
     GenerationGuard& guard_;
     std::int16_t code_;
+};
+
+// The chips' own compound rules nest into one another (a box that mirrors
+// another, a switch that sets boxes with rules of their own). This hold takes
+// the guard only when it is idle and gives back only what it took, so that a
+// nested rule never ends an outer one's hold.
+class OwnedGuardHold {
+  public:
+    OwnedGuardHold(GenerationGuard& guard, std::int16_t code = guard_code::kChipRule)
+        : guard_(guard), code_(code), took_(guard.idle()) {
+        if (took_) guard_.set(code_);
+    }
+    ~OwnedGuardHold() { release(); }
+    OwnedGuardHold(const OwnedGuardHold&) = delete;
+    OwnedGuardHold& operator=(const OwnedGuardHold&) = delete;
+
+    void release() {
+        if (took_) guard_.release(code_);
+        took_ = false;
+    }
+
+  private:
+    GenerationGuard& guard_;
+    std::int16_t code_;
+    bool took_;
 };
 
 }  // namespace korvex::wizards

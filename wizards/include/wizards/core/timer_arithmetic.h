@@ -33,6 +33,10 @@ struct BaudSetting {
 
 // Timer 1 in mode 2 as baud generator, `doubled` for SMOD.
 BaudSetting timer1Baud(float fosc, double baud, bool doubled);
+// Timer 1 of the single-cycle AT89LP4052 as 16-bit auto-reload baud
+// generator: R = 65536 − 2^s × fosc / (32 × B), clamped to 0 to 65535.
+BaudSetting timer1Baud16(float fosc, double baud, bool doubled);
+
 // Timer 2 as baud generator; a reload of 65536 fails with "Division durch Null".
 BaudSetting timer2Baud(float fosc, double baud);
 
