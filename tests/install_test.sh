@@ -47,6 +47,12 @@ env -u KORVEX_HOME HOME="$work/home" "$prefix/bin/korvex-disasm" --controller 80
     "$work/src/probe.h51" >listing.txt 2>&1 || fail "korvex-disasm: $(cat listing.txt)"
 grep -q 'P1' listing.txt || fail "korvex-disasm ohne Treibernamen: $(cat listing.txt)"
 [ -z "$(ls -A "$work/home")" ] || fail "korvex-disasm schrieb ins HOME"
+# The 80C552 wizard reads its I²C routine from the installed data.
+[ -f "$prefix/share/korvex/c552iic.dat" ] || fail "c552iic.dat fehlt in share/korvex/"
+env -u KORVEX_HOME HOME="$work/home" "$prefix/bin/korvex-wizard" 552 --set ICCheck1=1 \
+    --set 'ICheck1(5)=1' --set ICheck3=1 >wizard.txt 2>&1 || fail "korvex-wizard: $(cat wizard.txt)"
+grep -q 'I2C Ende:' wizard.txt || fail "die I²C-Routine fehlt im Programm: $(cat wizard.txt)"
+[ -z "$(ls -A "$work/home")" ] || fail "korvex-wizard schrieb ins HOME"
 # The workbench, where it is built: its menu entry and icon are installed, and
 # on its first start it makes the user's program folder from the installation.
 if [ -x "$prefix/bin/korvex" ]; then

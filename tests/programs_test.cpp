@@ -171,17 +171,47 @@ TEST_F(ProgramsTest, WizardPrintsOrWritesTheProgramAndScriptsItsQuestions) {
 }
 
 // The matrix of settings is assembled in-process by the wizards' own tests;
-// here the two programs are chained once, as a user chains them.
-TEST_F(ProgramsTest, AGeneratedProgramAssemblesWithoutFindings) {
-    const ProcessResult wizard =
-        run(KORVEX_WIZARD,
-            "52 --date 01.01.2026 --set UCheck1=1 --set UOption1=3 --set UCombo1=1 --set "
-            "UCombo4=4800 --set T0Combo1=1 --set 'ICheck1(1)=1' --set ICheck0=1 -o start.a51");
-    ASSERT_EQ(wizard.exitCode, 0) << wizard.output;
-    const ProcessResult report = run(KORVEX_ASM, "--bin start.a51");
-    EXPECT_EQ(report.exitCode, 0) << report.output;
-    EXPECT_FALSE(contains(report.output, "Zeile ")) << report.output;
-    EXPECT_TRUE(exists("start.b51"));
+// here the two programs are chained once per chip, as a user chains them,
+// with the chip's own driver and (for the 80C552) the shipped I²C routine.
+TEST_F(ProgramsTest, EveryChipsGeneratedProgramAssemblesWithoutFindings) {
+    const std::pair<std::string, std::string> chips[] = {
+        {"51", "--set UCheck1=1 --set UOption1=3 --set T0Combo1=1 --set 'ICheck1(1)=1'"},
+        {"52",
+         "--set UCheck1=1 --set UOption1=3 --set UCombo1=1 --set UCombo4=4800 --set T0Combo1=1 "
+         "--set 'ICheck1(1)=1' --set ICheck0=1"},
+        {"89S53", "--set SOption1=1 --set 'SCheck3(0)=1' --set SPICheck1=1 --set WCheck2=1"},
+        {"8253",
+         "--set SCkX2=1 --set BCheckTakt=1 --set 'BList(8)=1' --set WCkStart=1 "
+         "--set SCheck1=1"},
+        {"4052", "--set BCheckTakt=1 --set 'BList(8)=1' --set CaktivCheck=1 --set 'PortText(3)=1'"},
+        {"320", "--set U1Check1=1 --set U1Option1=1 --set 'MCText2(2)=42' --set WCheck2=1"},
+        {"515",
+         "--set ADCheck1=1 --set WDCheck1=1 --click WDCommand1 --input 32.768 "
+         "--set T2Check0=1 --set 'CCCombo1(1)=2'"},
+        {"517", "--set UCheck1=1 --set UOption1=1 --set CTCheck1=1 --set 'CMCheck1(1)=1'"},
+        {"552",
+         "--set ICCheck1=1 --set 'ICheck1(5)=1' --set ICheck3=1 --set ICheck0=1 "
+         "--set PWMCheck1=1"},
+    };
+    for (const auto& [chip, settings] : chips) {
+        const std::string source = "start" + chip + ".a51";
+        const ProcessResult wizard =
+            run(KORVEX_WIZARD, chip + " --date 01.01.2026 " + settings + " -o " + source);
+        ASSERT_EQ(wizard.exitCode, 0) << chip << ": " << wizard.output;
+        const ProcessResult report = run(KORVEX_ASM, "--bin " + source);
+        EXPECT_EQ(report.exitCode, 0) << chip << ": " << report.output;
+        EXPECT_FALSE(contains(report.output, "Zeile ")) << report.output;
+        EXPECT_TRUE(exists("start" + chip + ".b51"));
+    }
+    EXPECT_TRUE(contains(read("start552.a51"),
+                         "; I\xB2"
+                         "C Service-Routine"));
+    const ProcessResult help = run(KORVEX_WIZARD, "--help");
+    for (const char* line :
+         {"  51                   Assistent 51\n", "  8253                 Assistent AT89S8253\n",
+          "  515                  Asisstent C515\n", "  552                  Assistent 80C552\n"}) {
+        EXPECT_TRUE(contains(help.output, line)) << help.output;
+    }
 }
 
 // The three programs answer a wrong call the same way: the usage on standard

@@ -7,6 +7,7 @@
 #include "wizards/assistent4052/assistent4052.h"
 #include "wizards/assistent51/assistent51.h"
 #include "wizards/assistent515/assistent515.h"
+#include "wizards/assistent517/assistent517.h"
 #include "wizards/assistent52/assistent52.h"
 #include "wizards/assistent552/assistent552.h"
 #include "wizards/assistent8253/assistent8253.h"
@@ -34,6 +35,7 @@ const std::vector<std::pair<std::string, Maker>>& wizards() {
         {"4052", maker<assistent4052::Assistent4052>()},
         {"320", maker<assistent320::Assistent320>()},
         {"515", maker<assistent515::Assistent515>()},
+        {"517", maker<assistent517::Assistent517>()},
         {"552", maker<assistent552::Assistent552>()},
     };
     return table;

@@ -19,13 +19,6 @@ namespace {
 
 constexpr int kAnalogInterrupt = 6;
 
-// Each source's enable bit: register (IEN0, IEN1), mask, and priority group.
-struct EnableBit {
-    int reg;
-    int mask;
-    int group;
-};
-
 constexpr std::array<EnableBit, 12> kEnableBits = {{{0, 0x01, 0},
                                                     {0, 0x02, 1},
                                                     {0, 0x04, 2},
@@ -160,6 +153,7 @@ void Assistent515::writeTimer2(ProgramParts& out, const GenerationContext& conte
             }
         }
     }
+    writeCompareUnits(code);
     writeAnalogDigital(code);
     writeWatchdog(code, context.fosc);
 }
@@ -202,7 +196,7 @@ void Assistent515::writeInterruptEnables(ProgramParts& out, const GenerationCont
     for (std::size_t i = 0; i < profile_.interrupts.size(); ++i) {
         if (s_.ICheck1[i].value == 0) continue;
         const int level =
-            std::max<int>(x_.IPCombo1[static_cast<std::size_t>(kEnableBits[i].group)].listIndex, 0);
+            std::max<int>(x_.IPCombo1[static_cast<std::size_t>(enableBit(i).group)].listIndex, 0);
         line8(code, text8("; ") + text8(profile_.interrupts[i].enableLine) + text8(", Priorität ") +
                         std::to_string(level));
         const OptionGroup* trigger = i == kExternal0Interrupt   ? &s_.IOption1
@@ -218,14 +212,15 @@ void Assistent515::writeInterruptEnables(ProgramParts& out, const GenerationCont
 }
 
 void Assistent515::writeInterruptRegisters(std::string& code) {
-    int ien[2] = {0, 0};
-    for (std::size_t i = 0; i < kEnableBits.size(); ++i) {
-        if (s_.ICheck1[i].value != 0) ien[kEnableBits[i].reg] |= kEnableBits[i].mask;
+    int ien[3] = {0, 0, 0};
+    for (std::size_t i = 0; i < profile_.interrupts.size(); ++i) {
+        if (s_.ICheck1[i].value != 0) ien[enableBit(i).reg] |= enableBit(i).mask;
     }
     // IEN1 is loaded whole: T2EX's enable, set with Timer 2, must stay.
     if (s_.T2Check0.value != 0 && s_.T2Check1.value != 0) ien[1] |= 0x80;
     if (ien[0] != 0) line8(code, "orl IEN0, #" + hexText(ien[0]) + "h");
     if (ien[1] != 0) line8(code, "mov IEN1, #" + hexText(ien[1]) + "h");
+    if (ien[2] != 0) line8(code, "mov IEN2, #" + hexText(ien[2]) + "h");
     int ip0 = 0;
     int ip1 = 0;
     for (std::size_t g = 0; g < x_.IPCombo1.size(); ++g) {
@@ -237,6 +232,10 @@ void Assistent515::writeInterruptRegisters(std::string& code) {
     line(code, "; Interruptprioritäten");
     line8(code, "mov IP0, #" + hexText(ip0) + "h");
     line8(code, "mov IP1, #" + hexText(ip1) + "h");
+}
+
+EnableBit Assistent515::enableBit(std::size_t source) const {
+    return kEnableBits[source];
 }
 
 int Assistent515::refreshBox(std::size_t source) const {

@@ -50,6 +50,16 @@ BaudSetting timer1Baud16(float fosc, double baud, bool doubled) {
     return setting;
 }
 
+BaudSetting baudGenerator10(double clock, double baud) {
+    BaudSetting setting;
+    setting.reload = roundToInt32(1024.0 - clock / baud);
+    if (setting.reload < 0) setting.reload = 0;
+    if (setting.reload > 1024) setting.reload = 1023;
+    if (setting.reload == 1024) raise(FailureNumber::DivisionByZero);
+    setting.actual = clock / (1024 - setting.reload);
+    return setting;
+}
+
 BaudSetting timer2Baud(float fosc, double baud) {
     BaudSetting setting;
     setting.reload = roundToInt32(65536.0 - static_cast<double>(fosc) / (baud * 32.0));

@@ -237,7 +237,10 @@ void addSiemensCases(std::vector<Case>& cases, const std::string& chip) {
          {"T2Check0=1", "T2Check2=1", "T2Check3=1", "CCCombo1(0)=1", "CCCombo1(1)=2",
           "CCCombo1(2)=3", "CCCombo1(3)=2", "CCText1(0)=12", "CCText2(0)=34", "CCText1(2)=56",
           "CCText2(2)=78", "T2Text4=9A", "T2Text5=BC"}},
-        {chip, "AnalogSingle", {"ADCheck1=1", "ADCombo1=5", "ADCombo2=10", "ADCombo3=2"}},
+        {chip, "AnalogSingle",
+         chip == "515"
+             ? std::vector<std::string>{"ADCheck1=1", "ADCombo1=5", "ADCombo2=10", "ADCombo3=2"}
+             : std::vector<std::string>{"ADCheck1=1", "ADCombo1=11"}},
         {chip,
          "AnalogContinuousInterrupt",
          {"ADCheck1=1", "ADOption1=1", "ICheck1(6)=1", "ICheck0=1"}},
@@ -410,19 +413,60 @@ std::vector<Case> cases4052() {
     return cases;
 }
 
+std::vector<Case> cases517() {
+    std::vector<Case> cases;
+    addSiemensCases(cases, "517");
+    const std::vector<Case> own = {
+        {"517", "Bank3ResetSources", {"SCombo1=3", "SCheck3=1", "SCheck4=1"}},
+        {"517", "Port0GeneratorFast", {"UCheck1=1", "UOption1=3", "UCombo1=28800", "UCheck4=1"}},
+        {"517",
+         "Port1Mode1",
+         {"U1Check1=1", "U1Check3=1", "U1Combo1=9600", "ICheck1(12)=1", "ICheck0=1"}},
+        {"517",
+         "Port1Mode3WithPort0",
+         {"UCheck1=1", "UOption1=1", "U1Check1=1", "U1Option1=1", "U1Check2=1", "ICheck1(4)=1",
+          "ICheck1(12)=1", "ICheck0=1"}},
+        {"517",
+         "CompareUnits",
+         {"CC4Combo1=2", "CC4Combo2=1", "CC4Slider=8", "CC4Text1=12", "CC4Text2=34",
+          "CMCheck1(0)=1", "CMCheck1(7)=1", "CMOption1(7)=1", "CMText1(0)=01", "CMText1(15)=FF",
+          "CTCheck1=1", "CTCombo1=7", "CTText1=80", "CTText2=FF"}},
+        {"517",
+         "CompareInterrupts",
+         {"ICheck1(13)=1", "ICheck1(14)=1", "ICheck1(15)=1", "ICheck1(16)=1", "IPCombo1(3)=3",
+          "WDCheck1=1", "WDCheck3(3)=1", "ICheck0=1"}},
+        {"517",
+         "ArithmeticUnit",
+         {"MDU1=1", "MDU2=1", "MDU3=1", "MDU4=1", "MDU5=1", "MDUText1=31", "MDU6=1", "MDUText2=1"}},
+        {"517", "ShiftCountsOutOfRange", {"MDU5=1", "MDUText1=0", "MDU6=1", "MDUText2=32"}},
+    };
+    cases.insert(cases.end(), own.begin(), own.end());
+    return cases;
+}
+
 std::vector<Case> allCases() {
     std::vector<Case> cases;
-    for (auto&& chipCases :
-         {cases51(), cases89S53(), cases8253(), cases4052(), cases320(), cases515(), cases552()}) {
+    for (auto&& chipCases : {cases51(), cases89S53(), cases8253(), cases4052(), cases320(),
+                             cases515(), cases517(), cases552()}) {
         cases.insert(cases.end(), chipCases.begin(), chipCases.end());
     }
     return cases;
 }
 
-// The report's warnings other than the send routines that the wizard offers
-// and nobody calls yet ("Sende:", "Sende 0:", ...), and the time base's
-// "T0 Return:", which the AT89LP4052's routine has even where no stage
-// jumps to it.
+// Routines the wizard offers and nobody calls yet: the send routines
+// ("Sende:", "Sende 0:", ...) and the C517's arithmetic routines; and the
+// time base's "T0 Return:", which the AT89LP4052's routine has even where no
+// stage jumps to it. The report lists them as unused labels.
+bool offeredRoutine(const std::string& warning) {
+    for (const char* label :
+         {"   Sende", "   T0 Return:", "   32div16:", "   16div16:", "   16mul16:",
+          "   Normalisierung:", "   Shift left:", "   Shift right:"}) {
+        if (warning.rfind(label, 0) == 0) return true;
+    }
+    return false;
+}
+
+// The report's warnings other than the offered routines.
 std::vector<std::string> unexpectedWarnings(const std::string& report) {
     std::vector<std::string> out;
     if (report.rfind("Warnungen/Fehler:", 0) != 0) return out;
@@ -431,9 +475,7 @@ std::vector<std::string> unexpectedWarnings(const std::string& report) {
         const std::size_t end = report.find("\r\n", from);
         const std::string text = report.substr(from, end - from);
         if (text.empty() || end == std::string::npos) break;
-        if (text != "Unbenutzte Label" && text.rfind("   Sende", 0) != 0 &&
-            text.rfind("   T0 Return:", 0) != 0)
-            out.push_back(toUtf8(text));
+        if (text != "Unbenutzte Label" && !offeredRoutine(text)) out.push_back(toUtf8(text));
         from = end + 2;
     }
     return out;

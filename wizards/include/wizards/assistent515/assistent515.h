@@ -12,6 +12,14 @@
 
 namespace korvex::wizards::assistent515 {
 
+// A source's enable bit: register (0 IEN0, 1 IEN1, 2 IEN2), mask, and the
+// priority group whose level it shares.
+struct EnableBit {
+    int reg;
+    int mask;
+    int group;
+};
+
 struct Settings515 {
     Settings515();
     void registerControls(ControlRegistry& registry);
@@ -86,6 +94,8 @@ class Assistent515 : public assistent52::Assistent52 {
     // Pieces the C517 words otherwise or extends.
     virtual void writeResetSource(std::string& code);
     virtual void writeAnalogDigital(std::string& code);
+    // Compare units beyond Timer 2's own (the C517's CC4 and CM registers).
+    virtual void writeCompareUnits(std::string&) {}
     virtual void writeWatchdog(std::string& code, float fosc);
     // IEN0, IEN1 and the priorities; the C517 adds IEN2.
     virtual void writeInterruptRegisters(std::string& code);
@@ -93,6 +103,7 @@ class Assistent515 : public assistent52::Assistent52 {
     virtual void writeSerialPortRoutine(assistent52::ProgramParts& out, std::size_t source);
     // The A/D result register the routine reads.
     virtual std::string analogResult() const { return "ADDAT"; }
+    virtual EnableBit enableBit(std::size_t source) const;
     // The source that a WDCheck3 box refreshes in, per routine.
     virtual int refreshBox(std::size_t source) const;
     // The port's baud rate from the chip's generator.

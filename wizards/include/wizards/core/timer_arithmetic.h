@@ -37,6 +37,12 @@ BaudSetting timer1Baud(float fosc, double baud, bool doubled);
 // generator: R = 65536 − 2^s × fosc / (32 × B), clamped to 0 to 65535.
 BaudSetting timer1Baud16(float fosc, double baud, bool doubled);
 
+// The C517's 10-bit baud-rate generators: r = 1024 − clock / B, with clock
+// 2^SMOD × fosc / 64 for port 0 and fosc / 32 for port 1. Below 0 becomes 0;
+// the upper test is against 1024, so 1024 itself passes and fails the
+// division with "Division durch Null".
+BaudSetting baudGenerator10(double clock, double baud);
+
 // Timer 2 as baud generator; a reload of 65536 fails with "Division durch Null".
 BaudSetting timer2Baud(float fosc, double baud);
 
