@@ -1,4 +1,4 @@
-// Arbitrary bytes as a user's session with the 80C52 / 80C32 wizard: a row of
+// Arbitrary bytes as a user's session with one of the chip wizards: a row of
 // field changes, clicks, key presses, Yes/No answers and inputs, each run
 // through the change operation of its control as the dialog would run it,
 // and the program generated at the end. A refused use (a disabled field, a
@@ -11,8 +11,9 @@
 // Field names come from the wizard's own registry, picked by index, so that
 // the bytes don't have to spell them.
 //
-// Input: one byte of options, then steps, each an action byte and what
-// that action reads:
+// Input: one byte of options (bit 0 the decimal mark, the bits above pick the
+// chip; 0 is the 80C52 / 80C32, so older seeds keep their meaning), then
+// steps, each an action byte and what that action reads:
 //   0 set       field byte, then for a text field or an editable list a
 //               length byte and the text, else a byte for the index
 //               (one past the end as well, which must be refused);
@@ -29,13 +30,14 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
 
 #include "base/failure.h"
-#include "wizards/assistent52/assistent52.h"
 #include "wizards/core/wizard_host.h"
+#include "wizards/wizard_factory.h"
 
 namespace {
 
@@ -85,7 +87,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::uint8_t flags = in.byte();
     options.numberFormat.decimalMark = (flags & 1) != 0 ? '.' : ',';
     options.now = [] { return std::string("01.01.2024 12:00:00"); };  // the same header every run
-    assistent52::Assistent52 wizard(host, options);
+    options.programFolder = KORVEX_DATA_DIR "/";
+    const std::vector<std::string> chips = wizardChips();
+    const std::size_t chip = (static_cast<std::size_t>(flags >> 1) + 1) % chips.size();
+    const std::unique_ptr<Wizard> made = makeWizard(chips[chip], host, options);
+    Wizard& wizard = *made;
     wizard.openWizard();
 
     const auto& fields = wizard.controls().all();
