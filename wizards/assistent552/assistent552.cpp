@@ -64,7 +64,7 @@ const ChipProfile& profile552() {
         .style = LiteralStyle::Blank,
         .bankMnemonic = "or",
         .mode2Caption = "Modus 2, asynchron, 9 Bit, ",
-        .tabs = {"System", "Serieller Port", "Timer 0", "Timer 1", "Timer 2", "PWM", "I²C",
+        .tabs = {"System", "Serieller Port", "Timer 0", "Timer 1", "Timer 2", "PWM", text8("I²C"),
                  "A/D-Wandler", "Watchdog", "Interrupts"},
         .interrupts = kSources552,
     };

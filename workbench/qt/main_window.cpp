@@ -1,4 +1,5 @@
 #include "gui/main_window.h"
+#include "gui/main_window_wizards.h"
 
 #include "compile_host.h"
 #include "gui/find_dialog.h"
@@ -75,6 +76,7 @@ MainWindow::MainWindow(std::string programFolder, MainWindowServices services, Q
 MainWindow::~MainWindow() {
     // The windows go first, while the table they report to still stands.
     closing_ = true;
+    closeWizards();
     removeCompileFolder();
     if (compileFrame_ != nullptr) compileFrame_->removeEventFilter(this);
     compileFrame_ = nullptr;

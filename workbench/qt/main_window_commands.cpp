@@ -125,6 +125,7 @@ void MainWindow::registerCommands() {
         {"mnuWArrange", [this] { arrangeIcons(area_); }},
     };
     registerHelpCommands();
+    registerWizardCommands();
     registerPinCommands();
 }
 

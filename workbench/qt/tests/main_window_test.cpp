@@ -225,7 +225,16 @@ TEST(MainWindow, EveryCommandHasItsCaptionKeyAndToolTip) {
                                  "mnuSReplace",
                                  "mnuSFindNext",
                                  "MnCompDisass",
-                                 "mnuDisasKonfig"};
+                                 "mnuDisasKonfig",
+                                 "MnAssist51",
+                                 "MnAssist52",
+                                 "MnAssist320",
+                                 "MnAssistAT89",
+                                 "MnAssist8253",
+                                 "MnAssist4052",
+                                 "MnAssist515",
+                                 "MnAssist517",
+                                 "MnAssist552"};
     int told = 0;
     for (const MenuRow& row : menuRows()) {
         const QString name = QString::fromLatin1(row.name != nullptr ? row.name : "");

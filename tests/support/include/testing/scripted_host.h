@@ -28,6 +28,9 @@ class ScriptedHost : public QuietHost {
         return answer;
     }
 
+    // The answer to a box still to come, after those scripted before.
+    void script(MessageAnswer answer) { answers_.push_back(answer); }
+
     std::vector<RecordedBox> boxes;
 
   private:

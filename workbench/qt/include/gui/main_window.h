@@ -24,6 +24,7 @@
 #include "workbench/editor_flags.h"
 #include "workbench/file_commands.h"
 #include "workbench/find_replace.h"
+#include "workbench/go_to_line.h"
 #include "workbench/help_topics.h"
 #include "workbench/recent_files.h"
 #include "workbench/settings.h"
@@ -44,6 +45,7 @@ class CompileDialog;
 class HelpWindow;
 class ReferenceWindow;
 class NotesWindow;
+class WizardWindow;
 
 struct MainWindowServices {
     Host& host;
@@ -84,6 +86,14 @@ class MainWindow : public QMainWindow, private Workspace {
     // frmFind while it is open.
     FindDialog* findDialog() const { return findDialog_; }
     const FindState& findState() const { return findState_; }
+
+    // The window of a chip's wizard ("52", "89S53", ...), made on first use; nullptr before.
+    WizardWindow* wizardWindow(const std::string& chip) const;
+    void openWizard(const std::string& chip);
+    // The input boxes of the wizards ("Frequenz vorgeben"); a QInputDialog unless set.
+    void setPrompt(PromptFunction prompt) { prompt_ = std::move(prompt); }
+    // Date and time in the header of a wizard's program; the present moment unless set.
+    void setWizardClock(std::function<std::string()> clock) { wizardClock_ = std::move(clock); }
 
     // Shows colours at once in every open window (the settings dialog's
     // preview), without storing them.
@@ -151,6 +161,13 @@ class MainWindow : public QMainWindow, private Workspace {
     void showPins(const char* file, const QString& caption);
     void registerPinCommands();
 
+    class WizardEditors;
+    struct WizardSeat;
+    void registerWizardCommands();
+    std::string askWizardInput(const std::string& title, const std::string& text,
+                               const std::string& offered);
+    void closeWizards();
+
     void findLabel();
     void chooseController();
     void showReference();
@@ -209,7 +226,13 @@ class MainWindow : public QMainWindow, private Workspace {
     QPointer<NotesWindow> notes_;
     QPointer<HelpWindow> helpWindow_;
     QPointer<ReferenceWindow> reference_;
-    QPointer<QSvgWidget> pins_;  // the text of the last active source window
+    QPointer<QSvgWidget> pins_;
+
+    // The wizards, one per chip for the whole run.
+    std::map<std::string, std::unique_ptr<WizardSeat>> wizards_;
+    std::unique_ptr<WizardEditors> wizardEditors_;
+    PromptFunction prompt_;
+    std::function<std::string()> wizardClock_;  // the text of the last active source window
 };
 
 }  // namespace korvex::gui
