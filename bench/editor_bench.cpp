@@ -1,15 +1,18 @@
 // The workbench on large documents: opening a file in a source window (text
 // in, comments coloured, laid out, ready for typing), one keystroke at three
 // places in it, compiling it from the window with the report shown, replace
-// all in it, and a large binary file in the grid viewer.
+// all in it, a large binary file in the grid viewer, and a change in each
+// wizard window until its preview shows the new program.
 // Runs on Qt's offscreen platform unless told otherwise.
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -28,6 +31,9 @@
 #include "gui/compile_dialog.h"
 #include "gui/editor_window.h"
 #include "gui/main_window.h"
+#include "gui/wizard_preview.h"
+#include "gui/wizard_window.h"
+#include "wizards/wizard_factory.h"
 #include "workbench/byte_grid.h"
 #include "workbench/file_comparison.h"
 #include "workbench/find_replace.h"
@@ -276,6 +282,56 @@ void BM_CompileLargeSourceFromTheWorkbench(benchmark::State& state) {
     std::filesystem::remove_all(folder, ignored);
 }
 BENCHMARK(BM_CompileLargeSourceFromTheWorkbench)->Unit(benchmark::kMillisecond);
+
+// One click in a wizard window until the preview shows the new program: the
+// change operation, the widgets that follow the record, the preview's text
+// and colours, and the repaint.
+void BM_WizardFieldChangeToPreview(benchmark::State& state) {
+    const std::string chip =
+        korvex::wizards::wizardChips()[static_cast<std::size_t>(state.range(0))];
+    state.SetLabel(chip);
+    const std::string folder = korvex::makePrivateTemporaryFolder();
+    korvex::QuietHost host;
+    OneFile dialogs;
+    korvex::MemoryUserSettingsStore store;
+    auto window = std::make_unique<korvex::gui::MainWindow>(
+        folder, korvex::gui::MainWindowServices{host, dialogs, store});
+    window->show();
+    window->start("");
+    window->openWizard(chip);
+    korvex::gui::WizardWindow* wizard = window->wizardWindow(chip);
+    // Most units in use, so that the program is a long one.
+    for (const char* field :
+         {"SCheck1",    "UCheck1",    "UCheck3",    "T1Check0",    "T2Check0", "WCheck2",
+          "WDCheck1",   "SPICheck1",  "ADCheck1",   "PWMCheck1",   "ICCheck1", "U1Check1",
+          "BCheckTakt", "BList(0)",   "BList(8)",   "CaktivCheck", "MDU1",     "MDU4",
+          "CTCheck1",   "ICheck1(1)", "ICheck1(3)", "ICheck1(4)"}) {
+        const std::string key = field;
+        const std::size_t open = key.find('(');
+        const int index = open == std::string::npos ? -1 : std::stoi(key.substr(open + 1));
+        try {
+            wizard->wizard().userSets(key.substr(0, open), index, "1");
+        } catch (const korvex::wizards::ControlUseError&) {
+            // not a field of this chip, or not usable with the others set
+        }
+    }
+    // LCALL or ACALL: every chip has the box, and it touches every call of the program.
+    auto* box = qobject_cast<QCheckBox*>(wizard->control(QStringLiteral("SCheck2")));
+    for (int tab = 0; tab < wizard->tabs()->count(); ++tab) {
+        if (wizard->tabs()->widget(tab)->isAncestorOf(box)) wizard->tabs()->setCurrentIndex(tab);
+    }
+    settle();
+    for (auto _ : state) {
+        box->click();
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(wizard->preview()->document()->characterCount());
+    }
+    state.counters["Zeichen"] = wizard->preview()->document()->characterCount();
+    window.reset();
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+}
+BENCHMARK(BM_WizardFieldChangeToPreview)->DenseRange(0, 8)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -50,7 +50,11 @@ const std::map<std::string, std::vector<TabRule>>& chipRules() {
           {"MDU", "MDU"}}},
         {"552",
          {{"ICheck3", "I²C", true},
-          {"IC", "I²C"},
+          // "ICCheck1", "ICSlider1", ...; not the interrupts' "ICheck1".
+          {"ICC", "I²C"},
+          {"ICS", "I²C"},
+          {"ICL", "I²C"},
+          {"ICT", "I²C"},
           {"PWM", "PWM"},
           {"AD", "A/D-Wandler"},
           {"WD", "Watchdog"},
@@ -112,10 +116,12 @@ std::string wizardFrameOf(const std::string& name) {
     return found != frames.end() ? found->second : std::string();
 }
 
-const std::vector<std::string>& wizardRowOf(const std::string& name) {
+const std::vector<std::string>& wizardRowOf(const std::string& key) {
     static const std::vector<std::vector<std::string>> rows = {
         {"ULabel3", "UCombo1", "UCombo3"},
         {"ULabel4", "UCombo2", "UCombo4"},
+        {"T0Label(0)", "T0Combo2"},
+        {"T1Label(0)", "T1Combo2"},
         {"T0Label2", "T0Text1"},
         {"T0Label3", "T0Text2"},
         {"T1Label2", "T1Text1"},
@@ -134,7 +140,7 @@ const std::vector<std::string>& wizardRowOf(const std::string& name) {
     };
     static const std::vector<std::string> alone;
     for (const auto& row : rows) {
-        if (std::find(row.begin(), row.end(), name) != row.end()) return row;
+        if (std::find(row.begin(), row.end(), key) != row.end()) return row;
     }
     return alone;
 }
@@ -156,8 +162,6 @@ std::string wizardCaptionBeside(const std::string& chip, const std::string& name
         {"SCheck2", "LCALL für Unterprogrammaufrufe verwenden"},
         {"T0Combo1", "Modus:"},
         {"T1Combo1", "Modus:"},
-        {"T0Combo2", "Vorteiler-Bits:"},
-        {"T1Combo2", "Vorteiler-Bits:"},
         {"T2Combo1", "Funktion:"},
         {"T2Combo2", "Vorteiler:"},
         {"U1Combo1", "Baudrate:"},
@@ -166,8 +170,8 @@ std::string wizardCaptionBeside(const std::string& chip, const std::string& name
         {"PWMText1", "Vorteiler PWMP (hex):"},
         {"PWMSlider1", "PWM0:"},
         {"PWMSlider2", "PWM1:"},
-        {"PWM0Slider", "Tastverhältnis:"},
-        {"PWM1Slider", "Tastverhältnis:"},
+        {"PWM0Slider", "PWM0 Tastverhältnis:"},
+        {"PWM1Slider", "PWM1 Tastverhältnis:"},
         {"ICSlider1", "Taktrate:"},
         {"ICText1", "Slave-Adresse (hex):"},
         {"WDText1", "Nachladewert (hex):"},

@@ -39,9 +39,17 @@ QString keyText(const std::string& key) {
 int fieldWidth(const QWidget* field, const std::string& name, const std::string& text) {
     const QFontMetrics metrics(field->font());
     if (name == "SText1") return metrics.horizontalAdvance(QStringLiteral("0000000000")) + 12;
-    if (text.size() <= 2) return metrics.horizontalAdvance(QStringLiteral("WWW")) + 12;
+    if (text.size() == 2) return metrics.horizontalAdvance(QStringLiteral("WWW")) + 12;
     if (text.size() == 8) return metrics.horizontalAdvance(QStringLiteral("0000000000")) + 12;
     return -1;
+}
+
+// Whether a control's widget takes the width of its panel: free text and
+// output lines do; boxes, lists and buttons keep their own size.
+bool takesTheWidth(const ControlRef& ref) {
+    if (auto* const* box = std::get_if<TextBox*>(&ref))
+        return (*box)->locked || (*box)->text.size() != 2;
+    return std::holds_alternative<Label*>(ref) || std::holds_alternative<Slider*>(ref);
 }
 
 }  // namespace
@@ -83,7 +91,7 @@ QWidget* WizardWindow::buildPanel(const std::vector<std::string>& keys) {
     std::vector<std::string> arrayOrder;
     for (const std::string& key : keys) {
         const Control& control = baseOf(refs.at(key));
-        if (control.index < 0) continue;
+        if (control.index < 0 || !wizardRowOf(key).empty()) continue;
         if (!members.count(control.name)) arrayOrder.push_back(control.name);
         members[control.name].push_back(key);
     }
@@ -125,7 +133,7 @@ QWidget* WizardWindow::buildPanel(const std::vector<std::string>& keys) {
             placed.insert(key);
             continue;
         }
-        if (control.index >= 0) {
+        if (control.index >= 0 && wizardRowOf(key).empty()) {
             const std::size_t grid = gridOf.at(control.name);
             if (gridsPlaced.insert(grid).second) {
                 std::vector<std::string> gridKeys;
@@ -134,14 +142,20 @@ QWidget* WizardWindow::buildPanel(const std::vector<std::string>& keys) {
                 }
                 target->addWidget(placeArrays(grids[grid], gridKeys));
                 placed.insert(gridKeys.begin(), gridKeys.end());
+                // The grid holds the heading of the priorities too.
+                if (std::find(grids[grid].begin(), grids[grid].end(), "ICheck2") !=
+                    grids[grid].end()) {
+                    placed.insert("ILabel1");
+                }
             }
             continue;
         }
         const RowPlace beside = wizardBesideRow(control.name);
         if (!beside.array.empty() && members.count(beside.array)) continue;  // the grid has it
-        const std::vector<std::string>& row = wizardRowOf(control.name);
+        const std::vector<std::string>& row =
+            wizardRowOf(key).empty() ? wizardRowOf(control.name) : wizardRowOf(key);
         if (row.empty()) {
-            target->addWidget(place(key));
+            target->addWidget(place(key), 0, takesTheWidth(ref) ? Qt::Alignment() : Qt::AlignLeft);
             placed.insert(key);
             continue;
         }
@@ -166,8 +180,9 @@ QWidget* WizardWindow::placeArrays(const std::vector<std::string>& arrays,
     std::map<std::string, ControlRef> refs;
     for (const auto& [key, ref] : wizard_.controls().all()) refs.emplace(key, ref);
     const int count = static_cast<int>(keys.size() / arrays.size());
-    // A long single array goes in two columns.
-    const int rows = arrays.size() == 1 && count > 8 ? (count + 1) / 2 : count;
+    // A long single array goes in two columns, unless the triggers stand beside its rows.
+    const bool triggersBeside = arrays.front() == wizardBesideRow("IOption1").array;
+    const int rows = arrays.size() == 1 && count > 8 && !triggersBeside ? (count + 1) / 2 : count;
     int headerRow = 0;
     // The column heading of the interrupt priorities.
     if (refs.count("ILabel1") &&
@@ -220,7 +235,12 @@ QWidget* WizardWindow::place(const std::string& key) {
         } else {
             auto* field = new QLineEdit;
             const int width = fieldWidth(field, control.name, (*box)->text);
-            if (width > 0) field->setFixedWidth(width);
+            if (width > 0) {
+                field->setFixedWidth(width);
+            } else {
+                field->setMinimumWidth(field->fontMetrics().horizontalAdvance(QLatin1Char('x')) *
+                                       30);
+            }
             widget = field;
         }
     } else if (auto* const* check = std::get_if<CheckBox*>(&ref)) {

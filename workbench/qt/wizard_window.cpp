@@ -47,8 +47,8 @@ WizardWindow::WizardWindow(std::string chip, Wizard& wizard, WizardHost& host,
     auto* split = new QSplitter(Qt::Horizontal);
     split->addWidget(tabs_);
     split->addWidget(preview_);
-    split->setStretchFactor(0, 3);
-    split->setStretchFactor(1, 2);
+    split->setStretchFactor(0, 1);
+    split->setStretchFactor(1, 1);
     split->setChildrenCollapsible(false);
 
     auto* buttons = new QHBoxLayout;
@@ -74,7 +74,8 @@ WizardWindow::WizardWindow(std::string chip, Wizard& wizard, WizardHost& host,
     wizard_.setObserver(this);
     resyncAll();
     showPreview();
-    resize(1180, 700);
+    resize(1200, 720);
+    split->setSizes({640, 560});
 }
 
 WizardWindow::~WizardWindow() {

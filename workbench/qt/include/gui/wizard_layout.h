@@ -17,9 +17,10 @@ int wizardTabOf(const std::string& chip, const std::vector<std::string>& tabs,
 // The frame that holds a control ("UFrame1" holds "UOption1"), or empty.
 std::string wizardFrameOf(const std::string& name);
 
-// The controls that share one row with `name`, in their order from left to
-// right; empty when it stands alone.
-const std::vector<std::string>& wizardRowOf(const std::string& name);
+// The controls that share one row with `key` (a name, or a member of an
+// array as "T0Label(0)"), in their order from left to right; empty when it
+// stands alone.
+const std::vector<std::string>& wizardRowOf(const std::string& key);
 
 // A control array shown beside another's member: the interrupt triggers
 // stand in the row of their source. Empty name when there is none.
