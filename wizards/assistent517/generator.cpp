@@ -176,7 +176,6 @@ void Assistent517::writeSerialPortRoutine(ProgramParts& out, std::size_t source)
     if (source == kSerialInterrupt) {
         std::string declarations;
         writeSerialRoutineLines(code, declarations, names(0));
-        bitList_ += "Empfang 0, Sendebusy 0, ";
         return;
     }
     // S1CON is not bit-addressable: its flags are tested in the accumulator.
@@ -187,7 +186,6 @@ void Assistent517::writeSerialPortRoutine(ProgramParts& out, std::size_t source)
           "reti"}) {
         line(code, text);
     }
-    bitList_ += "Empfang 1, Sendebusy 1, ";
 }
 
 void Assistent517::writeRoutine(ProgramParts& out, const GenerationContext& context,
@@ -206,6 +204,13 @@ void Assistent517::writeRoutine(ProgramParts& out, const GenerationContext& cont
 
 void Assistent517::writeRoutines(ProgramParts& out, const GenerationContext& context) {
     Assistent515::writeRoutines(out, context);
+    // Both ports' flags are declared by kind, the receive flags first.
+    const bool port0 = context.used[kSerialInterrupt];
+    const bool port1 = context.used[kSerial1Interrupt];
+    if (port0) bitList_ += "Empfang 0, ";
+    if (port1) bitList_ += "Empfang 1, ";
+    if (port0) bitList_ += "Sendebusy 0, ";
+    if (port1) bitList_ += "Sendebusy 1, ";
     writeArithmeticRoutines(out.code);
 }
 

@@ -31,6 +31,17 @@ TEST(Assistent552, PwmFiguresAndTheFrequencyCommand) {
               "23529,41 Hz liegen.");
     EXPECT_EQ(w.value("PWMText1"), "17");
     EXPECT_EQ(w.value("PWMLabel1"), "Wiederholfrequenz 980,3922 Hz, Periodendauer 1,02 ms.");
+    // Below the slowest rate the prescaler stops at FFh.
+    w.host.inputs = {"50"};
+    w.click("PWMCommand");
+    EXPECT_EQ(w.value("PWMText1"), "FF");
+    EXPECT_EQ(w.value("PWMLabel1"), "Wiederholfrequenz 91,91177 Hz, Periodendauer 10,88 ms.");
+
+    // The second output shares the prescaler and has its own duty.
+    w.apply({"PWMText1=09", "PWMCheck2=1", "PWMSlider2=200"});
+    EXPECT_EQ(w.value("PWMLabel1"), "Wiederholfrequenz 2352,941 Hz, Periodendauer 0,425 ms.");
+    EXPECT_EQ(w.value("PWMLabel3"), "Low-Zeit = 333,3333 µs, High-Zeit = 91,66667 µs");
+    EXPECT_TRUE(w.hasLine("mov PWM1, #C8h\t; Low-Zeit = 333,3333 µs, High-Zeit = 91,66667 µs"));
 }
 
 TEST(Assistent552, I2cRatesByDividerAndByTimer1) {
@@ -54,6 +65,14 @@ TEST(Assistent552, I2cRatesByDividerAndByTimer1) {
     EXPECT_EQ(w.value("ICLabel1"), "0 kHz.");
     w.apply({"T1Option1=0", "T1Combo1=1"});
     EXPECT_EQ(w.value("ICLabel1"), "0,001907349 kHz.");
+    w.set("T1Combo1", "0");
+    EXPECT_EQ(w.value("ICLabel1"), "0,01525879 kHz.");
+    w.set("T1Check2", "0");
+    EXPECT_EQ(w.value("ICLabel1"), "0 kHz.");
+    // With Timer 0 in mode 3 the run bit stays on in Timer 1's mode 3, which still stops it.
+    w.apply({"T1Check2=1", "T0Combo1=3", "T1Combo1=3"});
+    ASSERT_EQ(w.value("T1Check2"), "1");
+    EXPECT_EQ(w.value("ICLabel1"), "0 kHz.");
 }
 
 TEST(Assistent552, WatchdogFiguresAndRefresh) {

@@ -27,7 +27,10 @@ TEST(Assistent8253, TimeBaseTakesTimer0AndGivesItBack) {
         w.hasBlock({"TL0 = #CEh", "TH0 = #CEh\t; Reloadwert", "setb TR0\t; Timer 0 läuft."}));
     EXPECT_TRUE(w.hasBlock({"; * * * Hauptprogramm Start * * *", "loop", "\tif bit 4 Hz then"}));
     EXPECT_TRUE(w.hasLine("\tif bit 1 Hz then"));
-    EXPECT_TRUE(w.hasLine("20 kHz Teiler = #20: 4 Hz Teiler = #250: 1 Hz Teiler = #4"));
+    // The dividers start right behind the register bank.
+    w.set("SCombo1", "2");
+    EXPECT_TRUE(w.hasBlock({"orl PSW, #10\t; Registerbank 2",
+                            "20 kHz Teiler = #20: 4 Hz Teiler = #250: 1 Hz Teiler = #4"}));
     // The doubled clock doubles q.
     w.set("SCkX2", "1");
     EXPECT_EQ(w.value("T0Text2"), "9C");

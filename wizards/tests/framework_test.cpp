@@ -85,8 +85,18 @@ TEST_F(WizardCommands, FrequencyCommandsWriteTheReload) {
     click("T0Command1");
     EXPECT_EQ(s().T0Text2.text, "9C");
 
-    // A frequency so small that the 16-bit reload overflows 32 bits.
+    // Timer 2 at 12 MHz: 10000 Hz is q = 100, R = 65436; as baud-rate generator it divides by 32.
     set("T2Check0", "1");
+    host_.inputs = {"10000"};
+    click("T2Command1");
+    EXPECT_EQ(host_.boxes.back().title, "Timer 2 Autorelaod");
+    EXPECT_EQ(s().T2Text5.text + s().T2Text4.text, "FF9C");
+    set("T2Combo1", "8");
+    host_.inputs = {"9600"};
+    click("T2Command1");
+    EXPECT_EQ(s().T2Text5.text + s().T2Text4.text, "FFD9");
+
+    // A frequency so small that the 16-bit reload overflows 32 bits.
     host_.inputs = {"0.000001"};
     click("T2Command1");
     EXPECT_EQ(boxTexts(Kind::Failure),

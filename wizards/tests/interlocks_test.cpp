@@ -5,6 +5,7 @@
 
 #include "base/cp1252.h"
 #include "wizard_fixture.h"
+#include "wizard_session.h"
 
 namespace korvex::wizards::testing {
 namespace {
@@ -43,6 +44,38 @@ TEST_F(TimerAndSerialInterlocks, TimerForOtherWorkWhileItTimesThePortAsksFirst) 
               "Möchten Sie diese Zuordnung aufheben?");
     EXPECT_EQ(s().T2Check0.value, 0);
     EXPECT_EQ(s().UCheck1.value, 1);
+    host_.answers = {true};
+    set("T2Check0", "1");
+    EXPECT_EQ(s().T2Check0.value, 1);
+    EXPECT_EQ(s().UCheck1.value, 0);
+    EXPECT_TRUE(s().T2Combo1.enabled && s().T2Text4.enabled);
+    EXPECT_EQ(program().find("; Serieller Port"), std::string::npos);
+    EXPECT_TRUE(wizard_.atRest());
+}
+
+TEST_F(TimerAndSerialInterlocks, ChoosingTimer2InTheListAsksFirst) {
+    apply({"UCheck1=1", "UOption1=1", "T2Check0=1"});
+    // No: both lists go back to Timer 1, and Timer 2 keeps its work.
+    host_.answers = {false};
+    set("UCombo2", "1");
+    EXPECT_EQ(boxTexts(Kind::Question),
+              std::vector<std::string>{"Timer 2 wird bereits für andere Zwecke verwendet.\r\n Soll "
+                                       "diese Verwendung aufgehoben werden und möchten Sie Timer 2 "
+                                       "als Baudratengenerator benutzen?"});
+    EXPECT_EQ(s().UCombo1.listIndex + s().UCombo2.listIndex, 0);
+    EXPECT_EQ(s().T2Check0.value, 1);
+    EXPECT_FALSE(s().UCombo4.visible);
+    // Yes: Timer 2 sends, Timer 1 receives.
+    host_.answers = {true};
+    set("UCombo2", "1");
+    EXPECT_EQ(s().T2Check0.value, 0);
+    EXPECT_EQ(s().UCombo2.listIndex, 1);
+    EXPECT_TRUE(s().UCombo4.visible);
+    EXPECT_EQ(s().T2Combo1.listIndex, 8);
+    EXPECT_EQ(s().T2Option1.selected, 0);
+    EXPECT_TRUE(
+        hasLine("mov T2CON, #14h\t; Timer 2 als Baudratengenerator für Senden, Timer 2 Run"));
+    EXPECT_TRUE(wizard_.atRest());
 }
 
 TEST_F(TimerAndSerialInterlocks, BothTimersBusyLeaveOnlyModes0And2) {
@@ -90,6 +123,39 @@ TEST_F(TimerAndSerialInterlocks, ModeTakesTimer1SilentlyWhileTheListAsks) {
     set("UCombo1", "0");
     EXPECT_EQ(s().T1Check0.value, 0);
     EXPECT_EQ(s().UCombo1.listIndex, 0);
+}
+
+TEST(TimerAndSerialInterlocksOfTimer2, ModeTakesTimer2SilentlyForTheDirectionsItServes) {
+    struct Case {
+        const char* receive;
+        const char* send;
+        const char* direction;
+    };
+    for (const Case c : {Case{"1", "1", "2"}, Case{"0", "1", "0"}, Case{"1", "0", "1"}}) {
+        WizardSession w("52");
+        w.apply({"UCheck1=1", "UOption1=1", std::string("UCombo1=") + c.receive,
+                 std::string("UCombo2=") + c.send, "UOption1=0", "T2Check0=1", "T2Combo1=0"});
+        w.set("UOption1", "3");
+        EXPECT_TRUE(w.host.boxes.empty());
+        EXPECT_EQ(w.value("T2Check0") + w.value("T2Combo1"), "08");
+        EXPECT_EQ(w.value("T2Option1"), c.direction) << c.receive << c.send;
+    }
+}
+
+TEST_F(TimerAndSerialInterlocks, FreeingATimerRunsThePortRulesAgain) {
+    apply({"T1Check0=1", "T2Check0=1", "UCheck1=1"});
+    EXPECT_FALSE(s().UOption1.buttons[1].enabled || s().UOption1.buttons[3].enabled);
+    // Timer 1 free, Timer 2 still busy: modes 1 and 3 come back, on Timer 1.
+    set("T1Check0", "0");
+    EXPECT_TRUE(s().UOption1.buttons[1].enabled && s().UOption1.buttons[3].enabled);
+    EXPECT_EQ(s().UCombo1.listIndex + s().UCombo2.listIndex, 0);
+    // Timer 2 free, Timer 1 busy again: the port is put on Timer 2.
+    set("T1Check0", "1");
+    set("T2Check0", "0");
+    EXPECT_EQ(s().UCombo1.listIndex + s().UCombo2.listIndex, 2);
+    EXPECT_EQ(s().UCheck1.value, 1);
+    EXPECT_EQ(boxTexts(Kind::Note).size(), 1u);
+    EXPECT_TRUE(host_.boxes.size() == 1 && wizard_.atRest());
 }
 
 TEST_F(TimerAndSerialInterlocks, NoWithBothTimersBusyAsksOnce) {
