@@ -243,9 +243,8 @@ QWidget* WizardWindow::place(const std::string& key) {
             }
             widget = field;
         }
-    } else if (auto* const* check = std::get_if<CheckBox*>(&ref)) {
+    } else if (std::holds_alternative<CheckBox*>(ref)) {
         widget = new QCheckBox;
-        (void)check;
     } else if (auto* const* group = std::get_if<OptionGroup*>(&ref)) {
         widget = new QWidget;
         const bool across = !wizardBesideRow(control.name).array.empty();

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
@@ -98,6 +99,11 @@ void WizardWindow::open() {
 void WizardWindow::cancel() {
     wizard_.cancelWizard();
     hide();
+}
+
+void WizardWindow::closeEvent(QCloseEvent* event) {
+    wizard_.cancelWizard();
+    QWidget::closeEvent(event);
 }
 
 void WizardWindow::transfer() {

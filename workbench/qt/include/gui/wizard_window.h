@@ -18,8 +18,6 @@
 #include "wizards/core/wizard_host.h"
 
 class QAbstractButton;
-class QButtonGroup;
-class QGridLayout;
 class QLabel;
 class QTabWidget;
 class QLineEdit;
@@ -53,6 +51,8 @@ class WizardWindow : public QWidget, private wizards::WizardObserver {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    // The window's close button is "Abbrechen": hidden, the settings kept.
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     // A control and what shows it.
