@@ -206,7 +206,8 @@ void WizardWindow::bindTyping(QLineEdit* field, const std::string& name, int ind
 bool WizardWindow::eventFilter(QObject* watched, QEvent* event) {
     const auto found = fieldKeys_.find(watched);
     if (found == fieldKeys_.end()) return QWidget::eventFilter(watched, event);
-    const auto& [name, index] = found->second;
+    const std::string name = found->second.first;
+    const int index = found->second.second;
     auto* field = static_cast<QLineEdit*>(watched);
     if (event->type() == QEvent::FocusOut) {
         act(ControlRegistry::keyOf(name, index), [&] { wizard_.userLeaves(name, index); });
